@@ -1,0 +1,42 @@
+# The exported interface is listed once, in src/<subsystem>/exports.txt: one
+# name a line, either a C name or the demangled signature of a C++ member (as
+# `nm -DC` prints it). This module turns the lists into the ELF version script
+# so that the linker exports exactly those names; tests/exports compares the
+# built library's dynamic symbols with the same lists.
+set(KILNUTIL_VERSION_NODE "KILNUTIL_${PROJECT_VERSION_MAJOR}")
+
+function(kilnutil_read_export_lists out_var)
+  file(GLOB lists CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/*/exports.txt")
+  list(SORT lists)
+  set(names "")
+  foreach(list_file IN LISTS lists)
+    file(STRINGS "${list_file}" lines)
+    foreach(line IN LISTS lines)
+      string(STRIP "${line}" line)
+      if(line STREQUAL "" OR line MATCHES "^#")
+        continue()
+      endif()
+      list(APPEND names "${line}")
+    endforeach()
+  endforeach()
+  set(${out_var} "${names}" PARENT_SCOPE)
+endfunction()
+
+function(kilnutil_write_version_script path)
+  kilnutil_read_export_lists(names)
+  set(c_names "")
+  set(cxx_names "")
+  foreach(name IN LISTS names)
+    if(name MATCHES "[(:< ]")
+      string(APPEND cxx_names "      \"${name}\";\n")
+    else()
+      string(APPEND c_names "    ${name};\n")
+    endif()
+  endforeach()
+  set(text "${KILNUTIL_VERSION_NODE} {\n  global:\n${c_names}")
+  if(cxx_names)
+    string(APPEND text "    extern \"C++\" {\n${cxx_names}    };\n")
+  endif()
+  string(APPEND text "  local:\n    *;\n};\n")
+  file(CONFIGURE OUTPUT "${path}" CONTENT "${text}" @ONLY)
+endfunction()

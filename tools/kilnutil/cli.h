@@ -1,0 +1,36 @@
+// Shared pieces of the kilnutil command-line tool: the command table entry,
+// exit codes and one-line error reporting.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace kilnutil_cli {
+
+using Args = std::span<char* const>;  // the command's arguments, without its name
+
+enum ExitCode : int {
+  kOk = 0,
+  kInputFailed = 1,  // a file could not be read or a conversion failed
+  kUsage = 2,        // wrong arguments
+};
+
+struct Command {
+  const char* name;
+  const char* usage;    // argument synopsis, e.g. "TEXT|-"
+  const char* summary;  // one line for `kilnutil help`
+  int (*run)(Args args);
+};
+
+std::span<const Command> commands();
+
+// Prints "kilnutil: <message>" on stderr and returns kUsage.
+int usage_error(std::string_view message);
+// Prints "kilnutil: <message>" on stderr and returns kInputFailed.
+int input_error(std::string_view message);
+
+// The text of an argument, or all of standard input for "-".
+std::string text_argument(const char* arg);
+
+}  // namespace kilnutil_cli

@@ -1,0 +1,12 @@
+// Every command of the kilnutil tool; the table in main.cpp lists them.
+#pragma once
+
+#include "cli.h"
+
+namespace kilnutil_cli {
+
+int run_help(Args args);
+int run_version(Args args);
+int run_chars(Args args);
+
+}  // namespace kilnutil_cli

@@ -1,0 +1,60 @@
+// kilnutil: command-line access to the library's subsystems.
+#include "commands.h"
+
+#include <cstdio>
+#include <cstring>
+#include <iostream>
+#include <iterator>
+
+namespace kilnutil_cli {
+
+namespace {
+
+constexpr Command kCommands[] = {
+    {"help", "", "list the commands", run_help},
+    {"version", "", "print the library version", run_version},
+    {"chars", "TEXT|-", "list each character of UTF-8 text: byte offset, code point, UTF-16 units", run_chars},
+};
+
+}  // namespace
+
+std::span<const Command> commands() { return kCommands; }
+
+int usage_error(std::string_view message) {
+  std::cerr << "kilnutil: " << message << '\n';
+  return kUsage;
+}
+
+int input_error(std::string_view message) {
+  std::cerr << "kilnutil: " << message << '\n';
+  return kInputFailed;
+}
+
+std::string text_argument(const char* arg) {
+  if (std::strcmp(arg, "-") != 0) return arg;
+  return std::string(std::istreambuf_iterator<char>(std::cin), std::istreambuf_iterator<char>());
+}
+
+int run_help(Args) {
+  std::cout << "usage: kilnutil COMMAND [ARGUMENTS]\n\ncommands:\n";
+  for (const Command& command : commands()) {
+    std::string synopsis = std::string(command.name) + (*command.usage ? " " : "") + command.usage;
+    std::printf("  %-34s %s\n", synopsis.c_str(), command.summary);
+  }
+  return kOk;
+}
+
+}  // namespace kilnutil_cli
+
+int main(int argc, char** argv) {
+  using namespace kilnutil_cli;
+  if (argc < 2) {
+    run_help({});
+    return kUsage;
+  }
+  const std::string_view name = argv[1];
+  for (const Command& command : commands()) {
+    if (name == command.name) return command.run(Args(argv + 2, argv + argc));
+  }
+  return usage_error("unknown command '" + std::string(name) + "' (see 'kilnutil help')");
+}
