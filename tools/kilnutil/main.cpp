@@ -14,6 +14,7 @@ constexpr Command kCommands[] = {
     {"help", "", "list the commands", run_help},
     {"version", "", "print the library version", run_version},
     {"chars", "TEXT|-", "list each character of UTF-8 text: byte offset, code point, UTF-16 units", run_chars},
+    {"split", "[--statements|--terms|--tokens] [TEXT|-]", "cut script text into statements, terms or tokens", run_split},
 };
 
 }  // namespace
