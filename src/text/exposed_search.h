@@ -9,6 +9,7 @@
 #include "text/letter_case.h"
 
 #include <cstdint>
+#include <initializer_list>
 
 namespace kiln::text {
 
@@ -117,9 +118,8 @@ const Ch* exposed_scan(const Ch* text, const Ch* end, const Match& match, const 
       unsigned char role[128]{};
       unsigned char pair[128]{};
     } t;
-    t.role['"'] = t.role['\''] = kQuote;
-    for (int c = '0'; c <= '9'; ++c) t.role[c] = kNumber;
-    t.role['.'] = kNumber;
+    for (unsigned char c : {'"', '\''}) t.role[c] = kQuote;
+    for (unsigned char c : {'0', '1', '2', '3', '4', '5', '6', '7', '8', '9', '.'}) t.role[c] = kNumber;
     for (unsigned char i = 0; i < 4; ++i) {
       t.role[static_cast<unsigned char>(kPairOpeners[i])] = kOpen;
       t.role[static_cast<unsigned char>(kPairClosers[i])] = kClose;
