@@ -58,9 +58,3 @@ TEST(IsSpace, SpaceAndNineToThirteenOnly) {
   }
   EXPECT_EQ(KILNUTIL_isspace(-1), 0);
 }
-
-TEST(IsQuoteChar, DoubleAndSingle) {
-  EXPECT_EQ(KILNUTIL_is_quote_char('"'), 1);
-  EXPECT_EQ(KILNUTIL_is_quote_char('\''), 2);
-  EXPECT_EQ(KILNUTIL_is_quote_char('`'), 0);
-}
