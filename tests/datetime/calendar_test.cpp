@@ -173,28 +173,16 @@ TEST(CalendarRules, DayOfYearHelpers) {
   EXPECT_EQ(KILNUTIL_GetDayOfYearFromMonthAndDayOfMonth(2024, 1, 5), 34);
   EXPECT_EQ(KILNUTIL_GetDayOfYearFromMonthAndDayOfMonth(2023, 3, 1), 91);  // 30 x 3 + 1
 
-  int month = -1, day = -1;
-  KILNUTIL_get_month_and_day_from_days_of_year(2023, 0, &month, &day);
-  EXPECT_EQ(month, 0);
-  EXPECT_EQ(day, 1);
-  KILNUTIL_get_month_and_day_from_days_of_year(2023, 31, &month, &day);
-  EXPECT_EQ(month, 0);
-  EXPECT_EQ(day, 31);
-  KILNUTIL_get_month_and_day_from_days_of_year(2024, 60, &month, &day);
-  EXPECT_EQ(month, 1);
-  EXPECT_EQ(day, 29);
-  KILNUTIL_get_month_and_day_from_days_of_year(2023, 60, &month, &day);
-  EXPECT_EQ(month, 2);
-  EXPECT_EQ(day, 1);
-  KILNUTIL_get_month_and_day_from_days_of_year(2024, 61, &month, &day);
-  EXPECT_EQ(month, 2);
-  EXPECT_EQ(day, 1);
-  KILNUTIL_get_month_and_day_from_days_of_year(2024, 366, &month, &day);
-  EXPECT_EQ(month, 11);
-  EXPECT_EQ(day, 31);
-  KILNUTIL_get_month_and_day_from_days_of_year(2023, 400, &month, &day);
-  EXPECT_EQ(month, 11);
-  EXPECT_EQ(day, 31);
+  struct Case {
+    int year, day_of_year, month, day;
+  };
+  for (const Case& c : {Case{2023, 0, 0, 1}, Case{2023, 31, 0, 31}, Case{2024, 60, 1, 29}, Case{2023, 60, 2, 1},
+                        Case{2024, 61, 2, 1}, Case{2024, 366, 11, 31}, Case{2023, 400, 11, 31}}) {
+    int month = -1, day = -1;
+    KILNUTIL_get_month_and_day_from_days_of_year(c.year, c.day_of_year, &month, &day);
+    EXPECT_EQ(month, c.month) << c.year << " day " << c.day_of_year;
+    EXPECT_EQ(day, c.day) << c.year << " day " << c.day_of_year;
+  }
 }
 
 TEST(JulianDays, RangeTest) {
