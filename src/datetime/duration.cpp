@@ -18,13 +18,17 @@ bool g_keep_rounded_midnight = false;
 // are that number.
 constexpr double kSnapTolerance = 2.8935185185185184e-6;
 
+constexpr double kPowersOfTen[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9};
+
+double power_of_ten(int n) { return n >= 0 && n <= 9 ? kPowersOfTen[n] : std::pow(10.0, n); }
+
 // Rounds half up to a multiple of 10^(3 - decimals) milliseconds.
 double round_milliseconds(double milliseconds, int decimals) {
   if (decimals >= 3) {
-    const double scale = std::pow(10.0, decimals - 3);
+    const double scale = power_of_ten(decimals - 3);
     return std::floor(milliseconds * scale + 0.5) / scale;
   }
-  const double step = std::pow(10.0, 3 - decimals);
+  const double step = power_of_ten(3 - decimals);
   return std::floor(milliseconds / step + 0.5) * step;
 }
 
@@ -85,7 +89,8 @@ int extract_time(double value, stTime* out, int decimals) {
     }
   }
   const auto seconds = static_cast<int>(whole_seconds);
-  t.days = static_cast<unsigned int>(std::fmod(day_count, 4294967296.0));
+  constexpr double kDayCountWrap = 4294967296.0;  // the count is 32 bits
+  t.days = static_cast<unsigned int>(day_count < kDayCountWrap ? day_count : std::fmod(day_count, kDayCountWrap));
   t.hours = seconds / 3600;
   t.minutes = (seconds / 60) % 60;
   t.seconds = seconds % 60;
