@@ -9,6 +9,8 @@
 #include <kilnutil/numeric.h>
 
 #include <cmath>
+#include <cstdint>
+#include <cstring>
 
 using namespace kiln::datetime;
 
@@ -77,6 +79,18 @@ bool fields_to_value_rolling(CalendarFields f, double* value) {
   if (fields_to_value(f, kActiveSystem, &first_of_month) != kFieldsConverted) return false;
   *value = first_of_month + (day - 1);
   return true;
+}
+
+// A small integer argument (weekday, day of month). Hosts pass either a
+// 32-bit integer in the argument's first four bytes or a double holding a
+// whole number; a whole double up to 2^20 has zeros there, an integer other
+// than 0 does not, so the two are told apart by those four bytes.
+int small_integer_argument(const double* argument) {
+  std::int32_t as_integer = 0;
+  std::memcpy(&as_integer, argument, sizeof as_integer);
+  if (as_integer != 0) return as_integer;
+  const double as_double = *argument;
+  return as_double == std::trunc(as_double) && std::fabs(as_double) <= 64 ? static_cast<int>(as_double) : 0;
 }
 
 void clear_time_of_day(CalendarFields* f) {
@@ -201,7 +215,7 @@ int query(const double* value, double* argument, const unsigned* inout) {
 int move_to_weekday(double* value, const double* argument) {
   CalendarFields f;
   if (!decompose(*value, &f)) return 0;
-  const int target = *reinterpret_cast<const int*>(argument);
+  const int target = small_integer_argument(argument);
   *value += target - record_weekday(f);
   return 0;
 }
@@ -229,7 +243,7 @@ int set_from_text(double* value, const double* argument) {
 int move_to_day(double* value, const double* argument, int threshold, bool to_first) {
   CalendarFields f;
   if (!decompose(*value, &f)) return 0;
-  const int d = *reinterpret_cast<const int*>(argument);
+  const int d = small_integer_argument(argument);
   if (f.day - d > threshold) advance_month(&f);
   if (to_first) {
     f.day = 1;

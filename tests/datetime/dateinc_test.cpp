@@ -135,7 +135,7 @@ TEST(DateInc, MoveToWeekday) {
   double value = date_value(2024, 2, 29, 12);  // Thursday
   EXPECT_EQ(dateinc(&value, int_argument(1), 6), 0);
   EXPECT_EQ(value, date_value(2024, 2, 26, 12));  // Monday of that week
-  dateinc(&value, int_argument(6), 6);
+  dateinc(&value, 6.0, 6);  // a double holding the weekday works as well
   EXPECT_EQ(value, date_value(2024, 3, 2, 12));
 }
 
@@ -173,7 +173,7 @@ TEST(DateInc, MoveToDayOfMonth) {
   dateinc(&value, int_argument(4), 10);  // 16 > 15: first of the next month
   EXPECT_EQ(value, date_value(2022, 1, 1, 9));
   value = date_value(2021, 12, 20, 9);
-  dateinc(&value, int_argument(5), 10);
+  dateinc(&value, 5.0, 10);
   EXPECT_EQ(value, date_value(2021, 12, 1, 9));
 }
 
