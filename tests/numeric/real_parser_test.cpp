@@ -17,7 +17,7 @@ struct Parsed {
 };
 
 Parsed parse(std::string text, unsigned flags = 1) {
-  double value = 12345.0;  // a value no case below produces
+  double value = 12345.0;  // kept when the parse fails
   const unsigned code = KILNUTIL_cvtstr2real_ex(text.data(), &value, flags, nullptr);
   return {code, value};
 }
@@ -38,66 +38,71 @@ class FractionSwitchScope {
   unsigned previous_;
 };
 
-TEST(RealParser, ResultCodesByForm) {
-  EXPECT_EQ(parse("3").code, 1u);
-  EXPECT_EQ(parse("3.25").code, 2u);
-  const Parsed exponent = parse("-1.5e3");
-  EXPECT_EQ(exponent.code, 4u);
-  EXPECT_EQ(exponent.value, -1500.0);
-  EXPECT_EQ(parse("3.25").value, 3.25);
-}
+constexpr unsigned kStrict = 1;
+constexpr unsigned kLenient = 0;
+constexpr double kAnyValue = 12345.0;  // the value parse() leaves on failure
 
-TEST(RealParser, ExponentFollowsTheIntegerRule) {
-  EXPECT_EQ(parse("1e-0").code, 0u);  // "-0" is no integer
-  EXPECT_EQ(parse("1e0").code, 4u);
-  EXPECT_EQ(parse("1e+0").code, 4u);
-  const Parsed empty = parse("1e");
-  EXPECT_EQ(empty.code, 4u);
-  EXPECT_EQ(empty.value, 1.0);
-  EXPECT_EQ(parse("e5").code, 0u);
-  EXPECT_EQ(parse("-E5").code, 0u);
-  EXPECT_EQ(parse("1e308").code, 0u);
-  EXPECT_EQ(parse("1e-308").code, 0u);
-  EXPECT_EQ(parse("1e307").value, 1e307);
-  EXPECT_EQ(parse("2.5E-3").value, 2.5 / 1000.0);
-  EXPECT_EQ(parse("1e2.5").code, 0u);
-}
+struct Case {
+  const char* text;
+  unsigned flags;
+  unsigned code;
+  double value;
+};
 
-TEST(RealParser, SignsAndBlanks) {
+TEST(RealParser, FormsCodesAndValues) {
+  const Case cases[] = {
+      {"3", kStrict, 1, 3.0},
+      {"3.25", kStrict, 2, 3.25},
+      {"-1.5e3", kStrict, 4, -1500.0},
+      // The exponent follows the integer rule: "-0" is none, "" is 0.
+      {"1e-0", kStrict, 0, kAnyValue},
+      {"1e0", kStrict, 4, 1.0},
+      {"1e+0", kStrict, 4, 1.0},
+      {"1e", kStrict, 4, 1.0},
+      {"e5", kStrict, 0, kAnyValue},
+      {"-E5", kStrict, 0, kAnyValue},
+      {"1e308", kStrict, 0, kAnyValue},
+      {"1e-308", kStrict, 0, kAnyValue},
+      {"1e307", kStrict, 4, 1e307},
+      {"2.5E-3", kStrict, 4, 2.5 / 1000.0},
+      {"1e2.5", kStrict, 0, kAnyValue},
+      // Signs and blanks.
+      {"", kStrict, 0, kAnyValue},
+      {"   ", kStrict, 0, kAnyValue},
+      {"\xE2\x88\x92" "5", kStrict, 1, -5.0},  // U+2212 MINUS SIGN
+      {"\xC3\xA9" "5", kStrict, 0, kAnyValue},
+      {" \t 7", kStrict, 1, 7.0},
+      {"\xC2\xA0" "7", kStrict, 1, 7.0},  // a no-break space is a blank
+      {"+7", kStrict, 1, 7.0},
+      {"-.5", kStrict, 2, -0.5},
+      // What may follow the number.
+      {"12 ", kStrict, 1, 12.0},
+      {"12 x", kStrict, 0, kAnyValue},
+      {"1.5x", kStrict, 0, kAnyValue},
+      {"1.5 ", kStrict, 2, 1.5},
+      {"12 x", kLenient, 1, 12.0},
+      {"12x", kLenient, 0, kAnyValue},
+      {"1.5x", kLenient, 2, 1.5},
+      // Integer parts beyond 8 bytes: the 64-bit conversion, then the digit sum.
+      {"123456789", kStrict, 1, 123456789.0},
+      {"18446744073709551615", kStrict, 1, 18446744073709551615.0},
+      {"123456789 ", kStrict, 0, kAnyValue},  // the sum refuses the blank
+  };
+  for (const Case& c : cases) {
+    const Parsed parsed = parse(c.text, c.flags);
+    EXPECT_EQ(parsed.code, c.code) << "\"" << c.text << "\" flags " << c.flags;
+    EXPECT_EQ(parsed.value, c.value) << "\"" << c.text << "\" flags " << c.flags;
+  }
+  // Beyond the 64-bit range the digits are summed as digit x 10^k, which
+  // need not be the nearest double.
+  double sum = 0;
+  const std::string digits = "123456789012345678901234";
+  for (std::size_t i = 0; i < digits.size(); ++i) sum += (digits[i] - '0') * std::pow(10.0, static_cast<double>(digits.size() - i - 1));
+  EXPECT_EQ(parse(digits).value, sum);
+
   const Parsed minus = parse("-");
   EXPECT_EQ(minus.code, 1u);
-  EXPECT_EQ(minus.value, 0.0);
-  EXPECT_TRUE(std::signbit(minus.value));
-  EXPECT_EQ(parse("").code, 0u);
-  EXPECT_EQ(parse("   ").code, 0u);
-  EXPECT_EQ(parse("\xE2\x88\x92" "5").value, -5.0);  // U+2212 MINUS SIGN
-  EXPECT_EQ(parse("\xC3\xA9" "5").code, 0u);
-  EXPECT_EQ(parse(" \t 7").value, 7.0);
-  EXPECT_EQ(parse("\xC2\xA0" "7").value, 7.0);  // a no-break space is a blank
-  EXPECT_EQ(parse("+7").value, 7.0);
-  EXPECT_EQ(parse("-.5").value, -0.5);
-}
-
-TEST(RealParser, StrictAndLenientTails) {
-  EXPECT_EQ(parse("12 ").code, 1u);
-  EXPECT_EQ(parse("12 x").code, 0u);
-  EXPECT_EQ(parse("1.5x").code, 0u);
-  EXPECT_EQ(parse("1.5 ").code, 2u);
-  const Parsed lenient = parse("12 x", 0);
-  EXPECT_EQ(lenient.code, 1u);
-  EXPECT_EQ(lenient.value, 12.0);
-  EXPECT_EQ(parse("12x", 0).code, 0u);
-  const Parsed fraction = parse("1.5x", 0);
-  EXPECT_EQ(fraction.code, 2u);
-  EXPECT_EQ(fraction.value, 1.5);
-}
-
-TEST(RealParser, LongIntegerParts) {
-  EXPECT_EQ(parse("123456789").value, 123456789.0);
-  EXPECT_EQ(parse("18446744073709551615").value, 18446744073709551615.0);
-  EXPECT_EQ(parse("123456789012345678901234").code, 1u);
-  // Beyond 8 bytes trailing blanks are digits that fail.
-  EXPECT_EQ(parse("123456789 ").code, 0u);
+  EXPECT_TRUE(minus.value == 0.0 && std::signbit(minus.value));
 }
 
 TEST(RealParser, IntegerPartIsReturnedWithItsSign) {
