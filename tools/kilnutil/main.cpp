@@ -15,6 +15,9 @@ constexpr Command kCommands[] = {
     {"version", "", "print the library version", run_version},
     {"chars", "TEXT|-", "list each character of UTF-8 text: byte offset, code point, UTF-16 units", run_chars},
     {"split", "[--statements|--terms|--tokens] [TEXT|-]", "cut script text into statements, terms or tokens", run_split},
+    {"number", "[--lenient] TEXT...", "parse numbers: code, value to 17 digits or the missing value", run_number},
+    {"date", "[--system NAME] DATE|--to-date V|...",
+     "date values in any date system, --convert V FROM TO, --step N d|m|q|y DATE", run_date},
 };
 
 }  // namespace
