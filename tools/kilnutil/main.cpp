@@ -48,10 +48,7 @@ int run_help(Args) {
 
 int main(int argc, char** argv) {
   using namespace kilnutil_cli;
-  if (argc < 2) {
-    run_help({});
-    return kUsage;
-  }
+  if (argc < 2) return usage_error("no command given (see 'kilnutil help')");
   const std::string_view name = argv[1];
   for (const Command& command : commands()) {
     if (name == command.name) return command.run(Args(argv + 2, argv + argc));
