@@ -46,6 +46,11 @@ unsigned utf16_by_line_ends(const unsigned char* bytes, size_t count, unsigned g
 // offsets (percent thresholds): kEncodingUtf16Le, ...Be, or 0.
 unsigned utf16_by_zero_ratio(const unsigned char* bytes, size_t count, int high_percent, int low_percent);
 
+// The stand-in for the system's "is this UTF-16 text" test: a UTF-16LE mark,
+// or an even size judged UTF-16LE by the two heuristics (a pair of zero bytes
+// rules the line-end test out).
+bool looks_like_utf16_text(const unsigned char* bytes, size_t size);
+
 // The full buffer detector with the process-wide guess setting.
 unsigned detect_encoding(const unsigned char* bytes, size_t count, int flags);
 
