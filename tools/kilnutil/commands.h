@@ -8,5 +8,8 @@ namespace kilnutil_cli {
 int run_help(Args args);
 int run_version(Args args);
 int run_chars(Args args);
+int run_detect(Args args);
+int run_to_utf8(Args args);
+int run_base64(Args args);
 
 }  // namespace kilnutil_cli

@@ -14,6 +14,9 @@ constexpr Command kCommands[] = {
     {"help", "", "list the commands", run_help},
     {"version", "", "print the library version", run_version},
     {"chars", "TEXT|-", "list each character of UTF-8 text: byte offset, code point, UTF-16 units", run_chars},
+    {"detect", "FILE...", "encoding of each file: code, name and mark size", run_detect},
+    {"to-utf8", "FILE [-o OUT] [-c CODEPAGE]", "a text file's contents as UTF-8", run_to_utf8},
+    {"base64", "[-d] [FILE|-]", "Base64 of a file, or with -d the bytes of Base64 text", run_base64},
 };
 
 }  // namespace
