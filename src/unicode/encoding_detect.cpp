@@ -5,6 +5,7 @@
 
 #include <kilnutil/unicode.h>
 
+#include <array>
 #include <cstdint>
 #include <cstring>
 
@@ -52,13 +53,15 @@ size_t ascii_run(const unsigned char* bytes, size_t count) {
   return i;
 }
 
-// Continuation bytes a lead byte announces, or -1 for a byte that can't lead.
-int continuation_count(unsigned char lead) {
-  if (lead >= 0xC2 && lead <= 0xDF) return 1;
-  if (lead >= 0xE0 && lead <= 0xEF) return 2;
-  if (lead >= 0xF0 && lead <= 0xF4) return 3;
-  return -1;
-}
+// Continuation bytes each byte announces as a lead byte: 0 for ASCII, -1 for
+// a byte that can't start a character (NUL included: it fails the test).
+constexpr auto kContinuations = [] {
+  std::array<signed char, 256> table{};
+  for (int b = 0; b < 256; ++b) {
+    table[b] = b == 0 ? -1 : b < 0x80 ? 0 : b < 0xC2 ? -1 : b < 0xE0 ? 1 : b < 0xF0 ? 2 : b < 0xF5 ? 3 : -1;
+  }
+  return table;
+}();
 
 unsigned run_detector(const unsigned char* bytes, size_t count, const DetectorParameters& parameters) {
   if (const unsigned mark = mark_encoding(bytes, count); mark != 0) return mark;
@@ -97,16 +100,16 @@ Utf8Verdict utf8_verdict(const unsigned char* bytes, size_t count) {
   bool continuation_seen = false;
   size_t i = 0;
   while (i < count) {
-    const unsigned char lead = bytes[i];
-    if (lead >= 0x01 && lead < 0x80) {
+    const int expected = kContinuations[bytes[i]];
+    if (expected == 0) {
       // Runs of ASCII go 32 bytes at a time.
       i += ascii_run(bytes + i, count - i);
       continue;
     }
-    const int expected = lead == 0 ? -1 : continuation_count(lead);
     if (expected < 0) return Utf8Verdict::kInvalid;
-    ++i;
-    for (int k = 0; k < expected && i < count; ++k, ++i) {
+    // The end of the buffer may cut the last sequence short: that passes.
+    const size_t end = i + 1 + static_cast<size_t>(expected) < count ? i + 1 + static_cast<size_t>(expected) : count;
+    for (++i; i < end; ++i) {
       if ((bytes[i] & 0xC0) != 0x80) return Utf8Verdict::kInvalid;
       continuation_seen = true;
     }
