@@ -28,8 +28,12 @@ int decode_base64(const char* src, int length, unsigned char* dst);
 // maximum thread count (so OMP_NUM_THREADS is honoured).
 unsigned base64_worker_count();
 
+// Encodes `groups` full groups of 3 bytes into 4 characters each.
+using GroupEncoder = void (*)(const unsigned char* src, size_t groups, char* dst);
+
 // Encodes the full groups split into `workers` contiguous chunks, one thread
-// each (the calling thread takes the first).
-void encode_base64_groups_parallel(const unsigned char* src, size_t groups, char* dst, unsigned workers);
+// each (the calling thread takes the first), each chunk with `encoder`.
+void encode_base64_groups_parallel(const unsigned char* src, size_t groups, char* dst, unsigned workers,
+                                   GroupEncoder encoder = encode_base64_groups);
 
 }  // namespace kiln::unicode

@@ -21,9 +21,10 @@ unsigned base64_worker_count() {
 #endif
 }
 
-void encode_base64_groups_parallel(const unsigned char* src, size_t groups, char* dst, unsigned workers) {
+void encode_base64_groups_parallel(const unsigned char* src, size_t groups, char* dst, unsigned workers,
+                                   GroupEncoder encoder) {
   if (workers < 2 || groups < workers) {
-    encode_base64_groups(src, groups, dst);
+    encoder(src, groups, dst);
     return;
   }
   const size_t per_worker = groups / workers;
@@ -37,15 +38,15 @@ void encode_base64_groups_parallel(const unsigned char* src, size_t groups, char
     for (; next < workers; ++next) {
       const size_t begin = chunk_start(next);
       const size_t end = chunk_start(next + 1);
-      threads.emplace_back(encode_base64_groups, src + 3 * begin, end - begin, dst + 4 * begin);
+      threads.emplace_back(encoder, src + 3 * begin, end - begin, dst + 4 * begin);
     }
   } catch (const std::exception&) {
     // No more threads to be had: the calling thread takes the chunks left.
   }
-  encode_base64_groups(src, chunk_start(1), dst);
+  encoder(src, chunk_start(1), dst);
   for (unsigned index = next; index < workers; ++index) {
     const size_t begin = chunk_start(index);
-    encode_base64_groups(src + 3 * begin, chunk_start(index + 1) - begin, dst + 4 * begin);
+    encoder(src + 3 * begin, chunk_start(index + 1) - begin, dst + 4 * begin);
   }
   for (std::thread& thread : threads) thread.join();
 }
