@@ -1,12 +1,16 @@
 // Any bytes through the buffer conversions, in UTF-8, 1252 and 932, with
 // destinations sized exactly as a host sizes them: no read past a terminator,
 // no write outside a destination, and the stated results.
+#include "platform/codepage.h"
+#include "unicode/code_page_direct.h"
+
 #include <kilnutil/unicode.h>
 
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace {
@@ -70,6 +74,23 @@ void growable(const char* text, int length, unsigned limit, int code_page) {
   }
 }
 
+// Long text (the input repeated) through the direct code-page path and
+// through UTF-16 step by step: the same bytes.
+void direct_matches_two_step(const char* text, int length, unsigned code_page) {
+  std::string repeated;
+  while (repeated.size() < static_cast<size_t>(kiln::unicode::kDirectConversionMinimum)) repeated.append(text, static_cast<size_t>(length));
+  kiln::unicode::Scratch<char> direct;
+  const int n = kiln::unicode::code_page_to_utf8_direct(code_page, repeated.c_str(), -1, direct);
+  if (n < 0) return;
+  const int units = kiln::platform::multibyte_to_wide(code_page, repeated.c_str(), -1, nullptr, 0);
+  std::vector<KILN_WCHAR> wide(static_cast<size_t>(units));
+  check(kiln::platform::multibyte_to_wide(code_page, repeated.c_str(), -1, wide.data(), units) == units);
+  const int bytes = kiln::platform::wide_to_multibyte(65001, wide.data(), units, nullptr, 0);
+  std::vector<char> utf8(static_cast<size_t>(bytes));
+  kiln::platform::wide_to_multibyte(65001, wide.data(), units, utf8.data(), bytes);
+  check(n == bytes && std::memcmp(direct.data(), utf8.data(), static_cast<size_t>(n)) == 0);
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -84,5 +105,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     growable(text.get(), length, limit, code_page);
   }
   utf8_to_utf16_and_back(text.get(), length);
+  if (length > 0) {
+    for (unsigned code_page : {1252u, 1251u, 932u, 936u, 949u, 950u}) direct_matches_two_step(text.get(), length, code_page);
+  }
   return 0;
 }
