@@ -1,10 +1,152 @@
-/* kilnutil text: exported interface of the text subsystem. */
+/* kilnutil text: scanning script text.
+ *
+ * Text is NUL-terminated UTF-8. Positions are pointers into the caller's
+ * text; functions that cut text write NULs into it; nothing allocates.
+ *
+ * An exposed character lies outside quoted sections (double or single
+ * quotes), outside brackets and outside numeric literals. Searches keep a
+ * little process-wide state (the escape switch, the last scan position, the
+ * pair nesting of KILNUTIL_strchr, the enclosed-token flag): call them from
+ * one thread. */
 #ifndef KILNUTIL_TEXT_H
 #define KILNUTIL_TEXT_H
 
 #include "kilnutil/export.h"
 
 KILNUTIL_BEGIN_C
+
+/* ---- Character classes. */
+/* Class of c: 2 letters, "_" and "`"; 3 digits and "."; 4 * + - / = ^;
+ * 5 ( < [ {; 6 ) > ] }; 7 NUL and ";"; 8 tab, LF, CR, space (and 160 while
+ * the no-break-space setting is on); 15 & and |; 16 anything else. The mask
+ * of KILNUTIL_test_char_cntrl reads "(", "&", "|" as 4 and the arithmetic
+ * operators and tab as 0 when it shares a bit with their modifier (1 for
+ * "(", 2 operators, 4 tab, 16 "&" "|"). */
+KILNUTIL_API unsigned char KILNUTIL_test_char(int c);
+/* 1 for space, 9 to 13, and 160 while the no-break-space setting is on. */
+KILNUTIL_API int KILNUTIL_isspace(int c);
+/* 1 for the double quote, 2 for the single quote, else 0. */
+KILNUTIL_API int KILNUTIL_is_quote_char(int c);
+
+/* ---- General character search. Mode bit 0 clear: c outside brackets and
+ * double-quoted sections ("(" ")", "{" "}", "[" "]", one kind at a time).
+ * Bit 0: plain search; with bit 1 the last occurrence. 0x4: plain, after the
+ * run of c that starts the text. 0x10: plain, within the text trimmed of
+ * white space at both ends. 0x20: c's other case matches too. */
+KILNUTIL_API char* KILNUTIL_strchr(const char* text, int c, unsigned int mode);
+/* Last c at or before from (from null: anywhere); plain. */
+KILNUTIL_API char* KILNUTIL_strchr_reverse(const char* text, int c, const char* from);
+
+/* ---- Exposed search. target 0: any white space. flags: 0x40 numbers are not
+ * skipped; 0x80 case-blind; 0x100 (loc) single quote quotes only as the first
+ * character; 0x1000000, 0x2000000, 0x4000000, 0x8000000: "(" ")", "{" "}",
+ * "[" "]", "<" ">" are not brackets ("<" ">" never with loc 0 unless the
+ * angle-bracket setting is on); 0x10000000, 0x20000000 (loc): single, double
+ * quote is not a quote. *status: 0, or -1 when a quoted section is left open.
+ * A position at or past end (when given) is never returned.
+ * Control calls (text null) return the last scan position (the text's start,
+ * or the first quoted section or number the last search skipped). target -1:
+ * *status = the escape switch, then escapes are off; target -2: the escape
+ * switch = *status (which the call has set to 0 first). */
+KILNUTIL_API char* KILNUTIL_exposed_char_pos_ex_loc_ex(const char* text, int target, unsigned int flags, int* status,
+                                                       int loc, const char* end);
+/* The last exposed target (or the hit at which a quoted section was left open). */
+KILNUTIL_API char* KILNUTIL_exposed_char_pos_from_end(const char* text, int target, int* status);
+/* The first c1 of KILNUTIL_strchr mode 0 whose next byte is c2. */
+KILNUTIL_API char* KILNUTIL_exposed_2_char_pos(const char* text, int c1, int c2);
+/* The first exposed, stand-alone occurrence of word, case-blind. flags:
+ * 0x1000 skip comments and spaces first; 0x2000 need not stand alone;
+ * 0x4000 match case. */
+KILNUTIL_API char* KILNUTIL_exposed_word_pos(const char* text, const char* word, unsigned int flags);
+
+/* ---- Brackets. */
+/* The ")" (or "}") closing a "(" (or "{") open before text. *error: 0; 1 when
+ * none closes it; 2 or 3 for an unclosed single or double quote. */
+KILNUTIL_API char* KILNUTIL_find_end_parenthesis(const char* text, int* error);
+KILNUTIL_API char* KILNUTIL_find_end_curly_brace(const char* text, int* error);
+/* The opener matching the closer at closer, searched from start. When
+ * colon_flag is given and 0, it becomes 1 if the first closer found is
+ * followed by ":" not followed by "[". */
+KILNUTIL_API char* KILNUTIL_find_matching_opening_paranthesis_ex(const char* start, const char* closer,
+                                                                 unsigned int flags, int* colon_flag);
+/* 0 matched; 1 a stray closer (or an opener followed by a stray closer);
+ * 2 one opener left open; 8 several. *position: where. */
+KILNUTIL_API int KILNUTIL_count_bracket_mismatch(const char* text, char** position, int open, int close,
+                                                 unsigned int flags);
+KILNUTIL_API int KILNUTIL_count_parenthesis_mismatch_ex(const char* text, char** position, unsigned int flags);
+/* Over all bracket kinds and quotes: 0; 1 stray closer; 2 or 3 unclosed
+ * single or double quote; 2 one opener open; 4 an opener, then a stray
+ * closer; 8 several. */
+KILNUTIL_API int KILNUTIL_count_quote_mismatch(const char* text, char** position);
+
+/* ---- Stripping an enclosing pair ("(" ")", "{" "}", double quotes, "[" "]").
+ * options: 1 trim leading spaces first; 2 the closer need not be last; 0x1000
+ * cut a last closer even when it does not match exposed; bits 24 to 31:
+ * exposed-search flags. *kind: the pair's class 1 to 4, -1 (0x1000 case),
+ * -2 (no opener but a closer last), 0. Returns the inner text. */
+KILNUTIL_API char* KILNUTIL_str_inside_ex(char* text, unsigned int options, int* kind);
+KILNUTIL_API char* KILNUTIL_str_inside(char* text, unsigned int options);
+/* Strips pairs while there are any (*removed: 1 when one was). */
+KILNUTIL_API char* KILNUTIL_text_inside_remove_quotes_ex(char* text, int* removed, unsigned int options);
+KILNUTIL_API char* KILNUTIL_text_inside_remove_quotes(char* text, int* removed);
+KILNUTIL_API char* KILNUTIL_text_inside_remove_quotes_even_mismatch(char* text, int* removed);
+
+/* ---- Quoted term: copies the next sep-separated term into dest (at most
+ * size - 1 bytes; size -1: the text's length), honouring quote (doubled
+ * quotes are kept). Returns the position behind the next sep, or null. */
+KILNUTIL_API char* KILNUTIL_next_quoted_term_ex_ex(char* dest, const char* text, int sep, int quote,
+                                                   int drop_quotes, int size);
+KILNUTIL_API char* KILNUTIL_next_quoted_term(char* dest, const char* text, int sep);
+
+/* ---- Tokens and words. Destination buffers must hold the text's length + 1. */
+/* The next token (delimiters: white space, + - / ; = ^; "*" stays inside); an
+ * enclosing bracket or quote pair at its start is dropped. Returns the
+ * position of the following token. */
+KILNUTIL_API char* KILNUTIL_next_token(char* dest, const char* text);
+/* 1 when the last KILNUTIL_next_token dropped an enclosing pair. */
+KILNUTIL_API int KILNUTIL_next_token_enclosed(void);
+/* The next white-space-delimited word; returns the position of the one after. */
+KILNUTIL_API char* KILNUTIL_next_word(char* dest, const char* text);
+/* Copies up to the first character of separators; returns the first
+ * non-space after it, or null. */
+KILNUTIL_API char* KILNUTIL_get_next_word(char* dest, const char* text, const char* separators);
+/* Copies up to the first separator of the list (in list order) that occurs;
+ * returns the position behind it, or the text's end. */
+KILNUTIL_API char* KILNUTIL_next_token_sep(char* dest, const char* text, const char* separators);
+/* First character of text in set: exposed, or anywhere with flags 0x10000. */
+KILNUTIL_API char* KILNUTIL_find_any_of_characters_in_str(const char* text, const char* set, unsigned int flags);
+
+/* ---- Statements, terms and arguments (the text is cut in place). */
+/* Cuts off the first statement (ending at ";", at a label ":", or at the "}"
+ * of a brace block); *first: its start. Returns where the next begins, or
+ * null; *status: 0, the character overwritten at that position, or -1 for an
+ * unclosed "{". */
+KILNUTIL_API char* KILNUTIL_separate_one_statement(char** first, char* text, int* status);
+/* Cuts off the first term; *op: the operator that ended it (or -1 for a
+ * missing closer); *end: where it ended. Returns where the rest begins. */
+KILNUTIL_API char* KILNUTIL_separate_one_term(char** term, char* text, int* op, char** end);
+/* The term between the last opener before closer and closer; returns the
+ * opener's position or null. */
+KILNUTIL_API char* KILNUTIL_get_preceeding_term(char** term, char* closer, char* text);
+/* brackets[0]: an opener already passed; cuts text at its exposed closer.
+ * Missing closer: brackets 65535, 65535; not an opener: 65534, 65535. */
+KILNUTIL_API char* KILNUTIL_get_remaining_term(char** term, char* text, unsigned short* brackets);
+/* Splits name(args) in place (closer null: the last character). 1 or 0. */
+KILNUTIL_API int KILNUTIL_extract_arg_pointers(char* text, char** name, char** args, char* closer);
+/* Splits into trimmed tokens (sep 0: ","; -1: white space); options is the
+ * token-list limit. The count, or -n when token n (from 0) is empty. */
+KILNUTIL_API int KILNUTIL_get_argument_list(char* text, char** list, int sep, int options);
+/* Splits text at exposed sep (0: ","; -1: white space), up to max separators
+ * (-1 no limit); stores trimmed tokens when list is given. The count. */
+KILNUTIL_API int KILNUTIL_separate_str_to_token_list(char* text, char** list, int sep, int max);
+/* Splits name[a][b]...: the number of subscripts, -1 for bad syntax or more
+ * than max, -2 for a missing "]". */
+KILNUTIL_API int KILNUTIL_separate_multidimensional_dereference(char* text, char** name, char** subscripts, int max);
+/* Exposed separators (0: ",") plus one; with max above 0 stops once above
+ * max, *rest: behind the last separator counted. */
+KILNUTIL_API int KILNUTIL_get_token_count_ex(const char* text, int sep, int max, char** rest);
+/* Plain separators plus one. */
+KILNUTIL_API int KILNUTIL_token_count_no_chk_inside(const char* text, int sep);
 
 KILNUTIL_END_C
 

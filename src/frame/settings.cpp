@@ -62,6 +62,7 @@ unsigned str2real_use_atof() { return g_str2real_use_atof; }
 bool treat_non_finite_as_missing() { return g_treat_non_finite_as_missing != 0; }
 bool test_char_nbsp() { return g_test_char_nbsp != 0; }
 bool test_char_cntrl() { return g_test_char_cntrl != 0; }
+unsigned char test_char_cntrl_mask() { return g_test_char_cntrl; }
 bool strict_good_c_identifier() { return g_strict_good_c_identifier != 0; }
 unsigned parenth_use_angle_brackets() { return g_parenth_use_angle_brackets; }
 unsigned short first_day_of_week() { return g_first_day_of_week; }

@@ -17,6 +17,7 @@ unsigned str2real_use_atof();
 bool treat_non_finite_as_missing();
 bool test_char_nbsp();
 bool test_char_cntrl();
+unsigned char test_char_cntrl_mask();       // the stored mask itself
 bool strict_good_c_identifier();
 unsigned parenth_use_angle_brackets();
 unsigned short first_day_of_week();

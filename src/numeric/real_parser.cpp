@@ -1,0 +1,206 @@
+// The real parser: sign, integer part, decimal separator, fraction and
+// exponent, with the process-wide decimal separator and the fraction switch.
+//
+// The parser cuts its text in place (a NUL for the exponent mark, the
+// separator and the end of the fraction digits) and puts every byte back
+// before it returns, except when the fraction conversion rejects the
+// mantissa: callers have always seen "." for the separator and a NUL behind
+// the fraction digits then, and some test for it.
+#include "frame/settings.h"
+#include "numeric/decimal_conversion.h"
+#include "numeric/digit_run.h"
+#include "numeric/integer_rule.h"
+#include "numeric/text_scan.h"
+#include "unicode/utf8.h"
+
+#include <kilnutil/frame.h>
+#include <kilnutil/numeric.h>
+
+#include <cmath>
+#include <cstring>
+
+namespace kiln::numeric {
+namespace {
+
+char g_decimal_separator = '.';
+
+constexpr unsigned kStrict = 1;
+constexpr unsigned kNotANumber = 0;
+constexpr unsigned kInteger = 1;
+constexpr unsigned kWithSeparator = 2;
+constexpr unsigned kWithExponent = 4;
+constexpr unsigned kMinusSign = 0x2212;
+constexpr int kMaxExponent = 307;
+constexpr std::size_t kMaxExponentText = 39;
+
+// Bytes of the caller's text replaced while parsing, put back on return.
+class TextCuts {
+ public:
+  ~TextCuts() {
+    for (int i = count_; i-- > 0;) *cuts_[i].at = cuts_[i].saved;
+  }
+  TextCuts() = default;
+  TextCuts(const TextCuts&) = delete;
+  TextCuts& operator=(const TextCuts&) = delete;
+
+  void replace(char* at, char with) {
+    cuts_[count_++] = {at, *at};
+    *at = with;
+  }
+  // Leaves every replacement in the text.
+  void keep() { count_ = 0; }
+
+ private:
+  struct Cut {
+    char* at;
+    char saved;
+  };
+  Cut cuts_[3] = {};
+  int count_ = 0;
+};
+
+struct Sign {
+  bool negative = false;
+  bool valid = true;
+};
+
+// "-" or U+2212 MINUS SIGN; any other non-ASCII character ends the parse.
+Sign read_sign(char*& p) {
+  if (*p == '-') {
+    ++p;
+    return {true, true};
+  }
+  if (static_cast<unsigned char>(*p) < 0x80) return {};
+  int length = 0;
+  if (unicode::utf8_decode(reinterpret_cast<const unsigned char*>(p), &length) != kMinusSign) return {false, false};
+  p += length;
+  return {true, true};
+}
+
+char* find_exponent_mark(char* p) {
+  for (; *p != '\0'; ++p) {
+    if (*p == 'E' || *p == 'e') return p;
+  }
+  return nullptr;
+}
+
+// The exponent text: shorter than 40 bytes, trimmed, empty or an integer by
+// the integer rule, within -307..307.
+bool read_exponent(const char* text, int* exponent) {
+  const std::size_t length = strnlen(text, kMaxExponentText + 1);
+  std::uint32_t value = 0;
+  if (length > kMaxExponentText || !convert_trimmed_integer({text, text + length}, false, &value)) return false;
+  const auto e = static_cast<std::int32_t>(value);
+  if (e < -kMaxExponent || e > kMaxExponent) return false;
+  *exponent = e;
+  return true;
+}
+
+double scale_by_power_of_ten(double value, int exponent) {
+  if (exponent > 0) return value * std::pow(10.0, exponent);
+  if (exponent < 0) return value / std::pow(10.0, -exponent);
+  return value;
+}
+
+struct ParseResult {
+  unsigned code = kNotANumber;
+  double value = 0.0;
+  bool has_integer_part = false;
+  std::int32_t integer_part = 0;
+};
+
+ParseResult parse_real(char* text, bool strict) {
+  ParseResult result;
+  char* p = const_cast<char*>(skip_blanks(text));
+  if (*p == '\0') return result;
+  const Sign sign = read_sign(p);
+  if (!sign.valid || *p == 'E' || *p == 'e') return result;
+
+  TextCuts cuts;
+  char* const mantissa = p;
+  char* const exponent_mark = find_exponent_mark(mantissa);
+  if (exponent_mark) cuts.replace(exponent_mark, '\0');
+  char* const separator = std::strchr(mantissa, g_decimal_separator);
+  if (separator) cuts.replace(separator, '\0');
+  const bool fraction_by_library = separator && !exponent_mark && frame::str2real_use_atof() != 0;
+
+  double value = 0.0;
+  if (!fraction_by_library) {
+    const DigitRunValue integer = convert_digit_run(mantissa, RunKind::integer, !strict);
+    if (!integer.ok) return result;
+    value = integer.value;
+    result.has_integer_part = true;
+    const auto bits = static_cast<std::uint32_t>(integer.low_bits);
+    result.integer_part = static_cast<std::int32_t>(sign.negative ? 0u - bits : bits);
+  }
+
+  unsigned code = kInteger;
+  if (separator) {
+    char* const fraction = separator + 1;
+    char* digits_end = fraction;
+    while (is_ascii_digit(*digits_end)) ++digits_end;
+    if (strict && !only_blanks(digits_end)) return result;
+    if (*digits_end != '\0') cuts.replace(digits_end, '\0');
+    if (fraction_by_library) {
+      *separator = '.';
+      const DecimalConversion converted = convert_decimal_text(mantissa);
+      if (converted.end != digits_end) {
+        cuts.keep();
+        return result;
+      }
+      value = converted.value;
+    } else {
+      const DigitRunValue digits = convert_digit_run(fraction, RunKind::fraction, false);
+      if (!digits.ok) return result;
+      value += digits.value;
+    }
+    code = kWithSeparator;
+  }
+
+  if (exponent_mark) {
+    int exponent = 0;
+    if (!read_exponent(exponent_mark + 1, &exponent)) return result;
+    value = scale_by_power_of_ten(value, exponent);
+    code = kWithExponent;
+  }
+  result.code = code;
+  result.value = sign.negative ? -value : value;
+  return result;
+}
+
+// The setter form: the first non-blank character becomes the separator.
+unsigned exchange_decimal_separator(const char* text) {
+  if (text == nullptr) return 0;
+  const char* p = skip_blanks(text);
+  if (*p == '\0') return 0;
+  const char previous = g_decimal_separator;
+  g_decimal_separator = *p;
+  return static_cast<unsigned>(static_cast<int>(static_cast<signed char>(previous)));
+}
+
+}  // namespace
+}  // namespace kiln::numeric
+
+using namespace kiln::numeric;
+
+unsigned int KILNUTIL_cvtstr2real_ex(char* text, double* value, unsigned int flags, int* integer_part) {
+  if (value == nullptr) return exchange_decimal_separator(text);
+  if (text == nullptr) return kNotANumber;
+  const ParseResult result = parse_real(text, (flags & kStrict) != 0);
+  if (result.code == kNotANumber) return kNotANumber;
+  *value = result.value;
+  if (integer_part && result.has_integer_part) *integer_part = result.integer_part;
+  return result.code;
+}
+
+unsigned int KILNUTIL_cvtstr2real(char* text, double* value) { return KILNUTIL_cvtstr2real_ex(text, value, kStrict, nullptr); }
+
+double KILNUTIL_str2real(char* text) {
+  double value = 0.0;
+  return KILNUTIL_cvtstr2real(text, &value) ? value : KILNUTIL_NANUM;
+}
+
+double KILNUTIL_dbStr2Real(char* text) {
+  double value = 0.0;
+  return KILNUTIL_cvtstr2real(text, &value) ? value : 0.0;
+}
