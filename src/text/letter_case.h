@@ -1,0 +1,25 @@
+// Single-character case mapping of the scanners: ASCII letters directly,
+// other characters of the basic plane by the platform's simple mapping.
+#pragma once
+
+namespace kiln::text {
+
+unsigned upper_case_slow(unsigned c);
+unsigned lower_case_slow(unsigned c);
+
+inline unsigned upper_case(unsigned c) {
+  if (c < 128) return c - 'a' < 26u ? c - 32 : c;
+  return upper_case_slow(c);
+}
+
+inline unsigned lower_case(unsigned c) {
+  if (c < 128) return c - 'A' < 26u ? c + 32 : c;
+  return lower_case_slow(c);
+}
+
+// a equals b, or b's other case.
+inline bool same_letter_either_case(unsigned a, unsigned b) {
+  return a == b || a == upper_case(b) || a == lower_case(b);
+}
+
+}  // namespace kiln::text
