@@ -8,7 +8,7 @@ namespace kiln::numeric {
 
 bool is_blank_at(const char* p, int* length) {
   const auto cp = unicode::utf8_decode(reinterpret_cast<const unsigned char*>(p), length);
-  return KILNUTIL_isspace(cp) != 0;
+  return KILNUTIL_isspace(static_cast<int>(cp)) != 0;
 }
 
 const char* skip_blanks(const char* p) {

@@ -1,0 +1,13 @@
+// The split of a day count into days and time of day, and the switch that
+// decides whether a time rounded up to 24:00:00 stays on its day.
+#pragma once
+
+#include <kilnutil/datetime.h>
+
+namespace kiln::datetime {
+
+// false (the default): 24:00:00 becomes 00:00:00 of the next day.
+bool keep_rounded_midnight_as_2400();
+void set_keep_rounded_midnight_as_2400(bool keep);
+
+}  // namespace kiln::datetime
