@@ -1,10 +1,9 @@
 // Character count of a UTF-8 string, with a fast path for runs of ASCII.
 //
-// The string's length is found first (the C library's strlen never reads
-// past the terminator in a way that matters), then the walk goes 32 bytes at
-// a time while they are all ASCII and by the lenient rule otherwise. Inside
-// the known length there is no NUL, so the rule's NUL tests reduce to the
-// distance to the end.
+// The string's length is found first with the C library's strlen, so that the
+// walk can test 32 bytes at a time for ASCII without reading past the
+// terminator; elsewhere it steps by the lenient rule, whose NUL tests keep it
+// inside the string.
 #include "unicode/utf8.h"
 
 #include <kilnutil/unicode.h>
@@ -26,15 +25,6 @@ bool all_ascii_32(const unsigned char* p) {
   return ((load_word(p) | load_word(p + 8) | load_word(p + 16) | load_word(p + 24)) & kHighBits) == 0;
 }
 
-// The lenient advance for a character at p with `left` bytes to the end.
-std::size_t bounded_advance_length(const unsigned char* p, std::size_t left) {
-  const unsigned lead = p[0];
-  if (lead < 0x80 || left < 2) return 1;
-  if (!(lead & 0x20) || left < 3) return 2;
-  if (!(lead & 0x10)) return 3;
-  return left >= 4 ? 4 : 3;
-}
-
 }  // namespace
 
 extern "C" int KILNUTIL_UNICODE_UTF8_StrLength(const char* s) {
@@ -49,9 +39,10 @@ extern "C" int KILNUTIL_UNICODE_UTF8_StrLength(const char* s) {
       count += 32;
       continue;
     }
+    // Up to 32 bytes by the rule itself; its NUL tests keep it inside the string.
     const std::size_t stop = n - i >= 32 ? i + 32 : n;
     while (i < stop) {
-      i += bounded_advance_length(p + i, n - i);
+      i += static_cast<std::size_t>(kiln::unicode::utf8_advance_length(p + i));
       ++count;
     }
   }

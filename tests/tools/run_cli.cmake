@@ -1,7 +1,13 @@
 # Runs the kilnutil tool once and checks its exit code and output.
-# -DTOOL=path -DARGS=args separated by \x1f -DRC=code -DSTDOUT_REGEX=re
+# -DTOOL=path -DARGC=n -DARG0=... -DARG<n-1>=... -DRC=code -DSTDOUT_REGEX=re
 # -DSTDERR_REGEX=re -DSTDIN=file
-string(REPLACE "\x1f" ";" args "${ARGS}")
+set(args "")
+if(ARGC GREATER 0)
+  math(EXPR last "${ARGC} - 1")
+  foreach(index RANGE ${last})
+    list(APPEND args "${ARG${index}}")
+  endforeach()
+endif()
 set(input_args "")
 if(STDIN)
   set(input_args INPUT_FILE "${STDIN}")

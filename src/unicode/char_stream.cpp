@@ -1,0 +1,115 @@
+// Reading and pushing back one character at a time: UTF-8 characters and
+// UTF-16 units from a stdio stream, or (flag 4) from one of the library's
+// byte sources.
+#include "unicode/utf8.h"
+
+#include <kilnutil/unicode.h>
+
+#include <cstdio>
+#include <cwchar>
+
+namespace {
+
+// The bytes of a stdio stream or of a byte source, whichever the flags say.
+class ByteReader {
+public:
+  ByteReader(void* stream, unsigned flags)
+      : file_((flags & KILNUTIL_CHAR_SOURCE) ? nullptr : static_cast<FILE*>(stream)),
+        source_((flags & KILNUTIL_CHAR_SOURCE) ? static_cast<KilnByteSource*>(stream) : nullptr) {}
+
+  // The next byte, or -1 at the end.
+  int get() {
+    const int byte = file_ != nullptr ? std::fgetc(file_) : source_->next_byte();
+    if (byte < 0) ended_ = true;
+    return byte < 0 ? -1 : byte;
+  }
+  // Gives a byte back; the byte, or -1 when refused.
+  int unget(int byte) {
+    const int result = file_ != nullptr ? std::ungetc(byte, file_) : source_->push_back_byte(byte);
+    return result < 0 ? -1 : result;
+  }
+  bool at_end() const { return file_ != nullptr ? std::feof(file_) != 0 : ended_; }
+
+private:
+  FILE* file_;
+  KilnByteSource* source_;
+  bool ended_ = false;
+};
+
+// Flag 0x1000: a raw little-endian unit. The end is not reported: a read at
+// the end gives the byte 0xFF.
+int read_raw_unit(ByteReader& reader) {
+  const unsigned low = static_cast<unsigned char>(reader.get());
+  const unsigned high = reader.at_end() ? 0 : static_cast<unsigned char>(reader.get());
+  return static_cast<int>(low | (high << 8));
+}
+
+// A character by its lead byte's classes; continuation bytes are taken as
+// they come, unchecked, the end of the stream included.
+int read_utf8_character(ByteReader& reader) {
+  const int lead = reader.get();
+  if (lead < 0x80) return lead;
+  int continuation_bytes;
+  unsigned value;
+  if (!(lead & 0x20)) {
+    continuation_bytes = 1;
+    value = lead & 0x1F;
+  } else if (!(lead & 0x10)) {
+    continuation_bytes = 2;
+    value = lead & 0x0F;
+  } else {
+    continuation_bytes = 3;
+    value = lead & 0x07;
+  }
+  for (int i = 0; i < continuation_bytes; ++i) value = (value << 6) | (static_cast<unsigned>(reader.get()) & 0x3F);
+  return static_cast<int>(value);
+}
+
+bool is_wide_stream(unsigned flags) { return (flags & KILNUTIL_CHAR_WIDE_STREAM) && !(flags & KILNUTIL_CHAR_SOURCE); }
+
+}  // namespace
+
+int KILNUTIL_UTF8_fgetc(void* stream, unsigned int flags) {
+  if (stream == nullptr) return -1;
+  ByteReader reader(stream, flags);
+  if (flags & KILNUTIL_CHAR_RAW_UTF16) return read_raw_unit(reader);
+  if (is_wide_stream(flags)) {
+    const wint_t character = std::fgetwc(static_cast<FILE*>(stream));
+    return character == WEOF ? -1 : static_cast<int>(character);
+  }
+  return read_utf8_character(reader);
+}
+
+void KILNUTIL_UTF8_ungetc(unsigned int c, void* stream, unsigned int flags) {
+  if (stream == nullptr) return;
+  if (is_wide_stream(flags)) {
+    std::ungetwc(static_cast<wint_t>(c), static_cast<FILE*>(stream));
+    return;
+  }
+  char bytes[4];
+  const int count = kiln::unicode::utf8_encode(c, bytes);
+  ByteReader reader(stream, flags);
+  for (int i = count - 1; i >= 0; --i) reader.unget(static_cast<unsigned char>(bytes[i]));
+}
+
+int KILNUTIL_UTF16_fgetc(void* stream, int big_endian, unsigned int flags) {
+  if (stream == nullptr) return -1;
+  ByteReader reader(stream, flags);
+  const int first = reader.get();
+  if (first < 0) return -1;
+  const int second = reader.get();
+  if (second < 0) return -1;
+  return big_endian == 0 ? (first | (second << 8)) : ((first << 8) | second);
+}
+
+int KILNUTIL_UTF16_ungetc(unsigned int unit, void* stream, int big_endian, unsigned int flags) {
+  if (stream == nullptr) return -1;
+  ByteReader reader(stream, flags);
+  const int low = static_cast<int>(unit & 0xFF);
+  const int high = static_cast<int>((unit >> 8) & 0xFF);
+  // The byte read first goes back last.
+  const int first = big_endian == 0 ? low : high;
+  const int second = big_endian == 0 ? high : low;
+  reader.unget(second);
+  return reader.unget(first);
+}

@@ -1,0 +1,126 @@
+// Conversions of text held in global memory handles.
+#include "unicode/global_text.h"
+
+#include "frame/settings.h"
+
+#include <kilnutil/unicode.h>
+
+#include <cstring>
+#include <limits>
+
+namespace kiln::unicode {
+
+using platform::kCodePageUtf8;
+
+namespace {
+
+int clamp_to_int(size_t value) {
+  return value > static_cast<size_t>(std::numeric_limits<int>::max() - 1) ? std::numeric_limits<int>::max() - 1
+                                                                          : static_cast<int>(value);
+}
+
+}  // namespace
+
+int block_text_to_wide(unsigned code_page, const LockedBlock& block, WideScratch& units) {
+  const auto* text = static_cast<const char*>(block.data());
+  const int length = clamp_to_int(strnlen(text, block.size()));
+  if (length == 0) {
+    if (!units.reserve(1)) return 0;
+    units.data()[0] = 0;
+    return 1;
+  }
+  const int count = platform::multibyte_to_wide(code_page, text, length, nullptr, 0);
+  if (count <= 0 || !units.reserve(static_cast<size_t>(count) + 1)) return 0;
+  if (platform::multibyte_to_wide(code_page, text, length, units.data(), count) != count) return 0;
+  units.data()[count] = 0;
+  return count + 1;
+}
+
+int block_units_to_wide(const LockedBlock& block, WideScratch& units) {
+  const auto* text = static_cast<const KILN_WCHAR*>(block.data());
+  const size_t capacity = block.size() / sizeof(KILN_WCHAR);
+  size_t length = 0;
+  while (length < capacity && text[length] != 0) ++length;
+  const int count = clamp_to_int(length);
+  if (!units.reserve(static_cast<size_t>(count) + 1)) return 0;
+  std::memcpy(units.data(), text, static_cast<size_t>(count) * sizeof(KILN_WCHAR));
+  units.data()[count] = 0;
+  return count + 1;
+}
+
+int replace_block_text(HGLOBAL* handle, unsigned code_page, WideScratch& units, int unit_count, int* default_used) {
+  const char* default_char = default_used != nullptr ? "?" : nullptr;
+  bool used = false;
+  bool* used_report = default_used != nullptr ? &used : nullptr;
+  if (default_used != nullptr) *default_used = 0;
+  const int bytes =
+      platform::wide_to_multibyte(code_page, units.data(), unit_count, nullptr, 0, default_char, used_report);
+  if (bytes <= 0) return -1;
+  HGLOBAL resized = GlobalReAlloc(*handle, static_cast<size_t>(bytes), GMEM_MOVEABLE | GMEM_ZEROINIT);
+  if (resized == nullptr) return -1;
+  *handle = resized;
+  LockedBlock block(resized);
+  if (block.data() == nullptr) return -1;
+  const int written = platform::wide_to_multibyte(code_page, units.data(), unit_count, static_cast<char*>(block.data()),
+                                                  bytes, default_char, used_report);
+  if (default_used != nullptr) *default_used = used ? 1 : 0;
+  return written == bytes ? bytes : -1;
+}
+
+int utf16_block_to_utf8(HGLOBAL* handle) {
+  if (handle == nullptr || *handle == nullptr) return 0;
+  LockedBlock block(*handle);
+  if (block.data() == nullptr) return 0;
+  if (block.size() < sizeof(KILN_WCHAR) || *static_cast<const KILN_WCHAR*>(block.data()) == 0) return 1;
+  WideScratch units;
+  const int unit_count = block_units_to_wide(block, units);
+  block.unlock();
+  if (unit_count == 0) return -1;
+  return replace_block_text(handle, kCodePageUtf8, units, unit_count, nullptr);
+}
+
+}  // namespace kiln::unicode
+
+using namespace kiln::unicode;
+
+int KILNUTIL_UNICODE_mbcs_to_UTF8_or_back_handle(HGLOBAL* handle, int direction, int code_page) {
+  if (handle == nullptr || *handle == nullptr) return 0;
+  LockedBlock block(*handle);
+  if (block.data() == nullptr) return 0;
+  if (block.size() == 0 || *static_cast<const char*>(block.data()) == '\0') return 1;
+  const unsigned page = resolve_code_page(code_page);
+  const unsigned from = direction == 0 ? page : kiln::platform::kCodePageUtf8;
+  const unsigned to = direction == 0 ? kiln::platform::kCodePageUtf8 : page;
+  WideScratch units;
+  const int unit_count = block_text_to_wide(from, block, units);
+  block.unlock();
+  if (unit_count == 0) return -1;
+  int* default_used = direction != 0 ? kiln::frame::default_char_used_flag() : nullptr;
+  return replace_block_text(handle, to, units, unit_count, default_used);
+}
+
+int KILNUTIL_UNICODE_mbcs_to_UTF8_handle(HGLOBAL* handle, int code_page) {
+  return KILNUTIL_UNICODE_mbcs_to_UTF8_or_back_handle(handle, 0, code_page);
+}
+
+int KILNUTIL_UNICODE_UTF8_to_mbcs_handle(HGLOBAL* handle, int code_page) {
+  return KILNUTIL_UNICODE_mbcs_to_UTF8_or_back_handle(handle, 1, code_page);
+}
+
+HGLOBAL KILNUTIL_UNICODE_UTF8_to_UTF16_handle(HGLOBAL utf8, int movable, int free_source) {
+  HGLOBAL result = nullptr;
+  {
+    LockedBlock source(utf8);
+    WideScratch units;
+    const int count = source.data() != nullptr ? block_text_to_wide(kiln::platform::kCodePageUtf8, source, units) : 0;
+    if (count > 0) result = GlobalAlloc(movable != 0 ? GHND : GPTR, static_cast<size_t>(count) * sizeof(KILN_WCHAR));
+    if (result != nullptr) {
+      LockedBlock target(result);
+      if (target.data() != nullptr) {
+        std::memcpy(target.data(), units.data(), static_cast<size_t>(count) * sizeof(KILN_WCHAR));
+      }
+    }
+  }
+  if (free_source != 0 && utf8 != nullptr) GlobalFree(utf8);
+  return result;
+}

@@ -1,0 +1,56 @@
+// Text held in global memory blocks: locking, the extent of the text within
+// its block, and the conversions that replace a block's text.
+#pragma once
+
+#include "unicode/code_page_text.h"
+
+#include <kilnutil/platform.h>
+
+#include <cstddef>
+
+namespace kiln::unicode {
+
+// A locked block, unlocked when the object goes.
+class LockedBlock {
+public:
+  explicit LockedBlock(HGLOBAL handle)
+      : handle_(handle), data_(handle != nullptr ? GlobalLock(handle) : nullptr),
+        size_(data_ != nullptr ? GlobalSize(handle) : 0) {}
+  ~LockedBlock() { unlock(); }
+  LockedBlock(const LockedBlock&) = delete;
+  LockedBlock& operator=(const LockedBlock&) = delete;
+
+  void* data() const { return data_; }
+  size_t size() const { return size_; }
+  void unlock() {
+    if (data_ != nullptr) GlobalUnlock(handle_);
+    data_ = nullptr;
+  }
+
+private:
+  HGLOBAL handle_;
+  void* data_;
+  size_t size_;
+};
+
+// Converts the narrow text of a locked block (up to its NUL, or the whole
+// block when it holds none) with a terminating zero unit: the unit count with
+// the zero, 0 on failure.
+int block_text_to_wide(unsigned code_page, const LockedBlock& block, WideScratch& units);
+
+// Converts the UTF-16 text of a locked block (up to its zero unit or the
+// block's end) with a terminating zero unit: the unit count with the zero.
+int block_units_to_wide(const LockedBlock& block, WideScratch& units);
+
+// Reallocates `*handle` (movable, zero-filled) to the size of `units` in the
+// code page and converts them into it. `default_used`, when given, asks for
+// the default character "?" and receives whether it was used. The byte count
+// with the NUL, or -1; `*handle` receives the reallocated handle.
+int replace_block_text(HGLOBAL* handle, unsigned code_page, WideScratch& units, int unit_count, int* default_used);
+
+// Replaces the UTF-16 text of a block with its UTF-8 form (the handle may
+// change): the byte count with the NUL, 1 for empty text, 0 for a null handle
+// or failed lock, -1 on failure.
+int utf16_block_to_utf8(HGLOBAL* handle);
+
+}  // namespace kiln::unicode

@@ -1,0 +1,180 @@
+// Any text file as a UTF-8 stream. UTF-8 files (and, on request, every file)
+// are read in place past their mark; UTF-16 big-endian files are handed back
+// as they are; everything else is converted into a temporary UTF-8 copy,
+// which END deletes.
+#include "unicode/code_page_text.h"
+#include "unicode/encoding_detect.h"
+#include "unicode/file_bytes.h"
+#include "unicode/global_text.h"
+
+#include <kilnutil/unicode.h>
+
+#include <fcntl.h>
+#include <sys/types.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <cstring>
+#include <string>
+#include <vector>
+
+namespace kiln::unicode {
+
+namespace {
+
+constexpr int kTempPathUnits = sizeof(TextFileToUTF8Context::temp_path) / sizeof(KILN_WCHAR);
+constexpr unsigned char kUtf8Mark[] = {0xEF, 0xBB, 0xBF};
+
+void set_temporary_path(TextFileToUTF8Context* context, const char* path) {
+  context->temp_path[0] = 0;
+  if (path != nullptr) KILNUTIL_UNICODE_UTF8_to_UTF16_buffers_ex(context->temp_path, kTempPathUnits, path, -1);
+}
+
+std::string temporary_path_of(const TextFileToUTF8Context* context) {
+  char path[3 * kTempPathUnits + 1];
+  if (KILNUTIL_UNICODE_UTF16_to_UTF8_buffers(path, sizeof path, context->temp_path) <= 0) return {};
+  return path;
+}
+
+// When no copy can be made, the file is reopened with the fallback mode.
+// (The stream handed back is that reopened one: a stream already closed can't
+// be handed out here, as its memory is gone.)
+FILE* reopen_with_fallback(TextFileToUTF8Context* context, HGLOBAL block, FILE* stream) {
+  if (block != nullptr) GlobalFree(block);
+  if (stream != nullptr) std::fclose(stream);
+  return KILNUTIL_UTF8_fopen(context->path, context->fallback_mode);
+}
+
+// Reads what follows the mark into a zero-filled block two bytes longer.
+HGLOBAL read_after_mark(FILE* stream, long long length, unsigned mark_size, size_t& size) {
+  size = length > mark_size ? static_cast<size_t>(length - mark_size) : 0;
+  HGLOBAL block = GlobalAlloc(GHND, size + 2);
+  if (block == nullptr) return nullptr;
+  LockedBlock locked(block);
+  if (locked.data() == nullptr || fseeko(stream, mark_size, SEEK_SET) != 0) {
+    locked.unlock();
+    GlobalFree(block);
+    return nullptr;
+  }
+  size = std::fread(locked.data(), 1, size, stream);
+  return block;
+}
+
+// Converts the block to UTF-8 in place; the UTF-8 length, below 1 on failure.
+int convert_block(HGLOBAL* block, unsigned family) {
+  const int result = family == kEncodingUtf16Le ? utf16_block_to_utf8(block) : KILNUTIL_UNICODE_mbcs_to_UTF8_handle(block, -1);
+  return result - 1;
+}
+
+// A new empty file in $TMPDIR (else /tmp) named VU8...; -1 when none can be made.
+int create_temporary_file(std::string& path) {
+  const char* folder = std::getenv("TMPDIR");
+  if (folder == nullptr || *folder == '\0') folder = "/tmp";
+  std::string pattern = std::string(folder) + "/VU8XXXXXX";
+  std::vector<char> name(pattern.begin(), pattern.end());
+  name.push_back('\0');
+  const int descriptor = mkostemp(name.data(), O_CLOEXEC);
+  if (descriptor >= 0) path = name.data();
+  return descriptor;
+}
+
+const char* converted_copy_mode(const TextFileToUTF8Context* context) {
+  if (context->binary_reopen) return "rb";
+  return context->utf8_text_mode ? "rt, ccs=UTF-8" : "rt";
+}
+
+// Writes the converted copy and opens it for reading; null when the copy
+// could not be written.
+FILE* make_converted_copy(TextFileToUTF8Context* context, HGLOBAL block, int length, FILE* stream) {
+  std::string path;
+  const int descriptor = create_temporary_file(path);
+  FILE* copy = descriptor >= 0 ? fdopen(descriptor, "wb") : nullptr;
+  set_temporary_path(context, copy != nullptr ? path.c_str() : nullptr);
+  if (copy == nullptr || temporary_path_of(context) != path) {
+    if (copy != nullptr) std::fclose(copy);
+    else if (descriptor >= 0) close(descriptor);
+    if (descriptor >= 0) unlink(path.c_str());
+    context->temp_path[0] = 0;
+    return reopen_with_fallback(context, block, stream);
+  }
+  context->mark_size = 0;
+  if (context->write_mark) {
+    std::fwrite(kUtf8Mark, 1, sizeof kUtf8Mark, copy);
+    context->mark_size = sizeof kUtf8Mark;
+  }
+  size_t written = 0;
+  if (length > 0) {
+    LockedBlock text(block);
+    if (text.data() != nullptr) written = std::fwrite(text.data(), 1, static_cast<size_t>(length), copy);
+  }
+  GlobalFree(block);
+  const bool complete = std::fclose(copy) == 0 && written == static_cast<size_t>(length > 0 ? length : 0);
+  if (!complete) {
+    unlink(path.c_str());
+    context->temp_path[0] = 0;
+  }
+  std::fclose(stream);
+  context->converted_stream = complete ? KILNUTIL_UTF8_fopen(path.c_str(), converted_copy_mode(context)) : nullptr;
+  return context->converted_stream;
+}
+
+}  // namespace
+
+FILE* open_text_file_as_utf8(FILE* stream, TextFileToUTF8Context* context) {
+  if (context == nullptr || context->path[0] == '\0' || context->fallback_mode == nullptr || stream == nullptr) {
+    return stream;
+  }
+  const unsigned max_bytes = KILNUTIL_DetectEncoding_GetBufSizeFromFilePath(context->path);
+  const unsigned code = detect_stream_encoding(stream, max_bytes, context->guess ? 0 : kDetectMarkOnly);
+  const auto mark_size = static_cast<unsigned>(KILNUTIL_GetBOMSize(code));
+  context->mark_size = static_cast<unsigned char>(mark_size);
+  fseeko(stream, mark_size, SEEK_SET);
+  const unsigned family = encoding_family(code);
+
+  if (family == kEncodingUtf8 || context->no_conversion) {
+    if (context->keep_mark) fseeko(stream, 0, SEEK_SET);
+    if (!context->reopen_as_utf8) return stream;
+    std::fclose(stream);
+    return KILNUTIL_UTF8_fopen(context->path, "rt, ccs=UTF-8");
+  }
+  fseeko(stream, 0, SEEK_SET);
+  // Big-endian text is not converted.
+  if (family == kEncodingUtf16Be) return stream;
+
+  const long long length = stream_size(stream);
+  std::fclose(stream);
+  FILE* raw = KILNUTIL_UTF8_fopen(context->path, "rb");
+  if (raw == nullptr || length < 0) return reopen_with_fallback(context, nullptr, raw);
+  size_t size = 0;
+  HGLOBAL block = read_after_mark(raw, length, mark_size, size);
+  if (block == nullptr) return reopen_with_fallback(context, nullptr, raw);
+  int utf8_length = 0;
+  if (size > 0) {
+    utf8_length = convert_block(&block, family);
+    if (utf8_length < 1) return reopen_with_fallback(context, block, raw);
+  }
+  return make_converted_copy(context, block, utf8_length, raw);
+}
+
+void close_text_file_as_utf8(FILE* stream, TextFileToUTF8Context* context) {
+  if (stream != nullptr) std::fclose(stream);
+  if (context == nullptr || stream == nullptr || stream != context->converted_stream) return;
+  const std::string path = temporary_path_of(context);
+  if (!path.empty()) unlink(path.c_str());
+  context->converted_stream = nullptr;
+  context->temp_path[0] = 0;
+}
+
+}  // namespace kiln::unicode
+
+void KILNUTIL_UNICODE_open_text_file_to_UTF8_INIT(TextFileToUTF8Context* context) {
+  if (context != nullptr) std::memset(context, 0, sizeof *context);
+}
+
+FILE* KILNUTIL_UNICODE_open_text_file_to_UTF8_BEGIN(FILE* stream, TextFileToUTF8Context* context) {
+  return kiln::unicode::open_text_file_as_utf8(stream, context);
+}
+
+void KILNUTIL_UNICODE_open_text_file_to_UTF8_END(FILE* stream, TextFileToUTF8Context* context) {
+  kiln::unicode::close_text_file_as_utf8(stream, context);
+}

@@ -1,0 +1,114 @@
+#include "test_files.h"
+
+#include <kilnutil/unicode.h>
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <string>
+#include <vector>
+
+namespace {
+
+// A byte source over a string, giving back any number of bytes.
+class StringByteSource : public KilnByteSource {
+public:
+  explicit StringByteSource(std::string bytes) : bytes_(std::move(bytes)) {}
+  int next_byte() override {
+    if (!pushed_.empty()) {
+      const int byte = pushed_.back();
+      pushed_.pop_back();
+      return byte;
+    }
+    return position_ < bytes_.size() ? static_cast<unsigned char>(bytes_[position_++]) : -1;
+  }
+  int push_back_byte(int byte) override {
+    pushed_.push_back(byte);
+    return byte;
+  }
+
+private:
+  std::string bytes_;
+  size_t position_ = 0;
+  std::vector<int> pushed_;
+};
+
+// A stdio stream over the bytes (a temporary file), closed at the end.
+class ByteStream {
+public:
+  explicit ByteStream(const std::string& bytes) : file_(std::tmpfile()) {
+    std::fwrite(bytes.data(), 1, bytes.size(), file_);
+    std::rewind(file_);
+  }
+  ~ByteStream() { std::fclose(file_); }
+  FILE* get() const { return file_; }
+
+private:
+  FILE* file_;
+};
+
+const std::string kMixed = "a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80";
+
+TEST(Utf8Fgetc, DecodesFromStreamsAndSources) {
+  ByteStream stream(kMixed);
+  StringByteSource source(kMixed);
+  for (const unsigned expected : {0x61u, 0xE9u, 0x20ACu, 0x1F600u}) {
+    EXPECT_EQ(KILNUTIL_UTF8_fgetc(stream.get(), 0), static_cast<int>(expected));
+    EXPECT_EQ(KILNUTIL_UTF8_fgetc(&source, KILNUTIL_CHAR_SOURCE), static_cast<int>(expected));
+  }
+  EXPECT_EQ(KILNUTIL_UTF8_fgetc(stream.get(), 0), -1);
+  EXPECT_EQ(KILNUTIL_UTF8_fgetc(&source, KILNUTIL_CHAR_SOURCE), -1);
+}
+
+TEST(Utf8Fgetc, ContinuationBytesAreNotChecked) {
+  // 0xC3 followed by 'A': the 'A' is consumed as a continuation byte.
+  ByteStream stream("\xC3" "AB");
+  EXPECT_EQ(KILNUTIL_UTF8_fgetc(stream.get(), 0), (0x03 << 6) | ('A' & 0x3F));
+  EXPECT_EQ(KILNUTIL_UTF8_fgetc(stream.get(), 0), 'B');
+  // A sequence cut by the end takes the end's bits as they come.
+  ByteStream cut("\xE2\x82");
+  EXPECT_EQ(KILNUTIL_UTF8_fgetc(cut.get(), 0), (0x2 << 12) | (0x02 << 6) | 0x3F);
+}
+
+TEST(Utf8Fgetc, RawUnitNeverReportsTheEnd) {
+  ByteStream stream("\x34\x12\x56");
+  EXPECT_EQ(KILNUTIL_UTF8_fgetc(stream.get(), KILNUTIL_CHAR_RAW_UTF16), 0x1234);
+  EXPECT_EQ(KILNUTIL_UTF8_fgetc(stream.get(), KILNUTIL_CHAR_RAW_UTF16), 0xFF56);  // second read hits the end
+  EXPECT_EQ(KILNUTIL_UTF8_fgetc(stream.get(), KILNUTIL_CHAR_RAW_UTF16), 0xFF);    // first read at the end
+}
+
+TEST(Utf8Ungetc, PushedCharactersComeBackInOrder) {
+  ByteStream stream("z");
+  StringByteSource source("z");
+  for (const unsigned c : {0x1F600u, 0x20ACu, 0xE9u}) {
+    KILNUTIL_UTF8_ungetc(c, stream.get(), 0);
+    EXPECT_EQ(KILNUTIL_UTF8_fgetc(stream.get(), 0), static_cast<int>(c));
+    KILNUTIL_UTF8_ungetc(c, &source, KILNUTIL_CHAR_SOURCE);
+    EXPECT_EQ(KILNUTIL_UTF8_fgetc(&source, KILNUTIL_CHAR_SOURCE), static_cast<int>(c));
+  }
+  KILNUTIL_UTF8_ungetc(0x110000, &source, KILNUTIL_CHAR_SOURCE);  // pushes nothing
+  EXPECT_EQ(KILNUTIL_UTF8_fgetc(&source, KILNUTIL_CHAR_SOURCE), 'z');
+}
+
+TEST(Utf16Units, BothByteOrdersAndPushBack) {
+  ByteStream stream(std::string("\x3D\xD8\x00\xDE\x41", 5));
+  EXPECT_EQ(KILNUTIL_UTF16_fgetc(stream.get(), 0, 0), 0xD83D);
+  EXPECT_EQ(KILNUTIL_UTF16_ungetc(0xD83D, stream.get(), 0, 0), 0x3D);
+  EXPECT_EQ(KILNUTIL_UTF16_fgetc(stream.get(), 0, 0), 0xD83D);
+  EXPECT_EQ(KILNUTIL_UTF16_fgetc(stream.get(), 1, 0), 0x00DE);
+  KILNUTIL_UTF16_ungetc(0x00DE, stream.get(), 1, 0);
+  EXPECT_EQ(KILNUTIL_UTF16_fgetc(stream.get(), 1, 0), 0x00DE);
+  EXPECT_EQ(KILNUTIL_UTF16_fgetc(stream.get(), 0, 0), -1);  // one byte left
+  StringByteSource source(std::string("\x00\x41", 2));
+  EXPECT_EQ(KILNUTIL_UTF16_fgetc(&source, 1, KILNUTIL_CHAR_SOURCE), 0x41);
+  EXPECT_EQ(KILNUTIL_UTF16_fgetc(&source, 1, KILNUTIL_CHAR_SOURCE), -1);
+}
+
+TEST(CharStreams, NullStreams) {
+  EXPECT_EQ(KILNUTIL_UTF8_fgetc(nullptr, 0), -1);
+  EXPECT_EQ(KILNUTIL_UTF16_fgetc(nullptr, 0, 0), -1);
+  KILNUTIL_UTF8_ungetc('a', nullptr, 0);
+  EXPECT_EQ(KILNUTIL_UTF16_ungetc('a', nullptr, 0, 0), -1);
+}
+
+}  // namespace

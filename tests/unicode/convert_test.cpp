@@ -1,0 +1,305 @@
+#include "test_files.h"
+
+#include <kilnutil/frame.h>
+#include <kilnutil/platform.h>
+#include <kilnutil/unicode.h>
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <string>
+#include <vector>
+
+namespace {
+
+using kiln_test::iconv_convert;
+
+// Sets the string-process code page for one test and puts the old one back.
+class StringCodePage {
+public:
+  explicit StringCodePage(unsigned page) : previous_(set_code_page_for_string_process(page)) {}
+  ~StringCodePage() { set_code_page_for_string_process(previous_); }
+
+private:
+  unsigned previous_;
+};
+
+std::string mbcs_to_utf8(const std::string& text, int code_page) {
+  char out[1024];
+  const int n = KILNUTIL_UNICODE_MBCS_to_UTF8(text.c_str(), -1, out, sizeof out, code_page);
+  return std::string(out, static_cast<size_t>(n > 0 ? n : 0));
+}
+
+std::string utf8_to_mbcs(const std::string& text, int code_page) {
+  char out[1024];
+  const int n = KILNUTIL_UNICODE_UTF8_to_MBCS(text.c_str(), -1, out, sizeof out, code_page);
+  return n > 0 ? std::string(out) : std::string();
+}
+
+TEST(MbcsToUtf8, ResultIsTheByteCountMinusOne) {
+  char out[16];
+  std::memset(out, '#', sizeof out);
+  EXPECT_EQ(KILNUTIL_UNICODE_MBCS_to_UTF8("caf\xE9", -1, out, sizeof out, 1252), 5);
+  EXPECT_STREQ(out, "caf\xC3\xA9");
+  // An explicit length converts no NUL: 3 bytes written, result 2.
+  std::memset(out, '#', sizeof out);
+  EXPECT_EQ(KILNUTIL_UNICODE_MBCS_to_UTF8("abcdef", 3, out, sizeof out, 1252), 2);
+  EXPECT_EQ(std::string(out, 4), "abc#");
+  // 0 or less is unbounded.
+  EXPECT_EQ(KILNUTIL_UNICODE_MBCS_to_UTF8("\x80", -1, out, 0, 1252), 3);
+  EXPECT_STREQ(out, "\xE2\x82\xAC");
+}
+
+TEST(MbcsToUtf8, EveryFailureEmptiesTheDestination) {
+  char out[4] = "xyz";
+  EXPECT_EQ(KILNUTIL_UNICODE_MBCS_to_UTF8("", -1, out, sizeof out, 1252), 0);
+  EXPECT_STREQ(out, "");
+  std::strcpy(out, "xyz");
+  EXPECT_EQ(KILNUTIL_UNICODE_MBCS_to_UTF8(nullptr, -1, out, sizeof out, 1252), 0);
+  EXPECT_STREQ(out, "");
+  std::strcpy(out, "xyz");
+  // "café" needs 6 bytes with its NUL.
+  EXPECT_EQ(KILNUTIL_UNICODE_MBCS_to_UTF8("caf\xE9", -1, out, 4, 1252), 0);
+  EXPECT_STREQ(out, "");
+  std::strcpy(out, "xyz");
+  EXPECT_EQ(KILNUTIL_UNICODE_MBCS_to_UTF8("abc", -1, out, sizeof out, 12345), 0);  // no such code page
+  EXPECT_STREQ(out, "");
+}
+
+TEST(MbcsToUtf8, NegativeCodePageMeansTheStringProcessPage) {
+  {
+    StringCodePage page(932);
+    EXPECT_EQ(mbcs_to_utf8("\x93\xFA\x96\x7B", -1), "\xE6\x97\xA5\xE6\x9C\xAC");
+  }
+  {
+    StringCodePage page(1252);
+    EXPECT_EQ(mbcs_to_utf8("\x93\xFA", -1), "\xE2\x80\x9C\xC3\xBA");
+  }
+}
+
+TEST(Utf8ToMbcs, EmptyGivesOneAndTheConverterResultOtherwise) {
+  char out[8] = "xyz";
+  EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_MBCS("", -1, out, sizeof out, 1252), 1);
+  EXPECT_STREQ(out, "");
+  EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_MBCS(nullptr, -1, nullptr, 0, 1252), 1);
+  EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_MBCS("caf\xC3\xA9", -1, out, sizeof out, 1252), 5);  // NUL included
+  EXPECT_STREQ(out, "caf\xE9");
+  EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_MBCS("caf\xC3\xA9", -1, nullptr, 0, 1252), 5);  // the needed size
+  EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_MBCS("caf\xC3\xA9", 5, out, sizeof out, 1252), 4);
+  EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_MBCS("caf\xC3\xA9", -1, out, 3, 1252), 0);  // does not fit
+}
+
+TEST(Utf16ToUtf8Buffers, NeedsRoomForTheNul) {
+  const KILN_WCHAR text[] = {'a', 0xE9, 0x65E5, 0};  // 1 + 2 + 3 bytes
+  char out[8];
+  EXPECT_EQ(KILNUTIL_UNICODE_UTF16_to_UTF8_buffers(out, 6, text), -1);
+  EXPECT_STREQ(out, "");
+  EXPECT_EQ(KILNUTIL_UNICODE_UTF16_to_UTF8_buffers(out, 7, text), 6);
+  EXPECT_STREQ(out, "a\xC3\xA9\xE6\x97\xA5");
+  const KILN_WCHAR empty[] = {0};
+  EXPECT_EQ(KILNUTIL_UNICODE_UTF16_to_UTF8_buffers(out, 7, empty), 0);
+  EXPECT_EQ(KILNUTIL_UNICODE_UTF16_to_UTF8_buffers(out, 7, nullptr), 0);
+  // An unpaired surrogate is replaced, not refused.
+  const KILN_WCHAR lone[] = {0xD800, 'x', 0};
+  EXPECT_EQ(KILNUTIL_UNICODE_UTF16_to_UTF8_buffers(out, 8, lone), 4);
+  EXPECT_STREQ(out, "\xEF\xBF\xBDx");
+}
+
+TEST(Utf8ToUtf16Buffers, CountsAndTheSpareUnit) {
+  KILN_WCHAR out[8];
+  EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_UTF16_buffers_ex(out, 8, "a\xC3\xA9", -7), 2);
+  EXPECT_EQ(out[0], u'a');
+  EXPECT_EQ(out[1], 0xE9);
+  EXPECT_EQ(out[2], 0);
+  // An explicit length converts no zero; one is stored behind the text.
+  for (auto& unit : out) unit = 0x7777;
+  EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_UTF16_buffers_ex(out, 3, "abc", 3), 2);
+  EXPECT_EQ(out[2], u'c');
+  EXPECT_EQ(out[3], 0);  // one past the size given
+  EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_UTF16_buffers_ex(out, 3, "abc", -1), -1);  // 4 units needed
+  EXPECT_EQ(out[0], 0);
+  EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_UTF16_buffers_ex(out, 3, "", -1), 0);
+  EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_UTF16_buffers_ex(out, 3, nullptr, -1), 0);
+}
+
+TEST(Utf16LeToBe, SwapsUpToTheZeroUnit) {
+  KILN_WCHAR text[] = {0x1234, 0x00FF, 0, 0xABCD};
+  EXPECT_EQ(KILNUTIL_UNICODE_UTF16LE_to_UTF16BE(text), 1);
+  EXPECT_EQ(text[0], 0x3412);
+  EXPECT_EQ(text[1], 0xFF00);
+  EXPECT_EQ(text[3], 0xABCD);
+}
+
+// A growable buffer record over a std::vector, counting the grow calls.
+struct GrowableBuffer {
+  MbcsToUTF8CallbackBuffer record{};
+  std::vector<char> storage;
+  std::vector<unsigned> requests;
+  bool refuse = false;
+
+  GrowableBuffer(const std::string& text, unsigned capacity, unsigned limit) {
+    storage.assign(std::max<size_t>(capacity, text.size() + 1), '\0');
+    std::memcpy(storage.data(), text.c_str(), text.size() + 1);
+    record.reserved = this;
+    record.grow = &GrowableBuffer::grow;
+    record.byte_limit = limit;
+    record.buffer = storage.data();
+    record.capacity = static_cast<unsigned>(storage.size());
+  }
+  static int grow(MbcsToUTF8CallbackBuffer* record, unsigned needed) {
+    auto* self = static_cast<GrowableBuffer*>(record->reserved);
+    self->requests.push_back(needed);
+    if (self->refuse) return 0;
+    self->storage.resize(needed);
+    record->buffer = self->storage.data();
+    record->capacity = needed;
+    return 1;
+  }
+};
+
+TEST(MbcsToUtf8Callback, ByteLimitKeepsWholeCharacters) {
+  GrowableBuffer ascii("abcdefghijkl", 0, 10);
+  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_callback(&ascii.record, 1252), 9);
+  EXPECT_STREQ(ascii.record.buffer, "abcdefghi");
+  // Five two-byte characters within 6 bytes: two of them fit with the NUL.
+  GrowableBuffer accents("\xE9\xE9\xE9\xE9\xE9", 0, 6);
+  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_callback(&accents.record, 1252), 4);
+  EXPECT_STREQ(accents.record.buffer, "\xC3\xA9\xC3\xA9");
+  GrowableBuffer at_limit("\xE9\xE9", 0, 5);  // needs exactly 5
+  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_callback(&at_limit.record, 1252), 4);
+}
+
+TEST(MbcsToUtf8Callback, GrowsOnlyWhenNeeded) {
+  GrowableBuffer roomy("caf\xE9", 64, 0);
+  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_callback(&roomy.record, 1252), 5);
+  EXPECT_TRUE(roomy.requests.empty());
+  GrowableBuffer tight("\xE9\xE9\xE9", 0, 0);
+  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_callback(&tight.record, 1252), 6);
+  EXPECT_EQ(tight.requests, std::vector<unsigned>{7});
+  EXPECT_STREQ(tight.record.buffer, "\xC3\xA9\xC3\xA9\xC3\xA9");
+  GrowableBuffer refused("\xE9\xE9\xE9", 0, 0);
+  refused.refuse = true;
+  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_callback(&refused.record, 1252), -1);
+  GrowableBuffer empty("", 4, 0);
+  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_callback(&empty.record, 1252), 0);
+}
+
+TEST(ConvertibleToCodePage, DefaultCharacterDecides) {
+  EXPECT_EQ(IsUTF8StringConvertibleToCodePage("caf\xC3\xA9", 1252), 1);
+  EXPECT_EQ(IsUTF8StringConvertibleToCodePage("\xE6\x97\xA5", 1252), 0);
+  EXPECT_EQ(IsUTF8StringConvertibleToCodePage("\xE6\x97\xA5", 932), 1);
+  EXPECT_EQ(IsUTF8StringConvertibleToCodePage("", 1252), 1);
+  EXPECT_EQ(IsUTF8StringConvertibleToCodePage("abc", 12345), -1);
+  EXPECT_EQ(IsUTF8StringConvertibleToCodePage(nullptr, 1252), -1);
+}
+
+// Makes a movable handle holding `text` with its NUL.
+HGLOBAL text_handle(const std::string& text) {
+  HGLOBAL handle = GlobalAlloc(GHND, text.size() + 1);
+  std::memcpy(GlobalLock(handle), text.c_str(), text.size() + 1);
+  GlobalUnlock(handle);
+  return handle;
+}
+
+std::string handle_text(HGLOBAL handle) {
+  std::string text(static_cast<const char*>(GlobalLock(handle)));
+  GlobalUnlock(handle);
+  return text;
+}
+
+TEST(HandleConversion, RoundTripThroughUtf8) {
+  HGLOBAL handle = text_handle("na\xEFve caf\xE9");
+  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_handle(&handle, 1252), 13);
+  EXPECT_EQ(handle_text(handle), "na\xC3\xAFve caf\xC3\xA9");
+  EXPECT_EQ(GlobalSize(handle), 13u);
+  EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_mbcs_handle(&handle, 1252), 11);
+  EXPECT_EQ(handle_text(handle), "na\xEFve caf\xE9");
+  EXPECT_EQ(GlobalFree(handle), nullptr);
+}
+
+TEST(HandleConversion, EmptyNullAndFailure) {
+  HGLOBAL empty = text_handle("");
+  HGLOBAL before = empty;
+  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_or_back_handle(&empty, 0, 1252), 1);
+  EXPECT_EQ(empty, before);
+  GlobalFree(empty);
+  HGLOBAL none = nullptr;
+  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_or_back_handle(&none, 0, 1252), 0);
+  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_or_back_handle(nullptr, 0, 1252), 0);
+  HGLOBAL text = text_handle("abc");
+  before = text;
+  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_or_back_handle(&text, 0, 12345), -1);
+  EXPECT_EQ(text, before);
+  EXPECT_EQ(handle_text(text), "abc");
+  GlobalFree(text);
+}
+
+TEST(HandleConversion, RegisteredFlagReportsTheDefaultCharacter) {
+  int used = 7;
+  int* previous = KILNUTIL_UNICODE_UTF8_to_mbcs_handle_conversion_default_char_used_check(&used);
+  HGLOBAL handle = text_handle("x\xE6\x97\xA5y");
+  EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_mbcs_handle(&handle, 1252), 4);
+  EXPECT_EQ(handle_text(handle), "x?y");
+  EXPECT_EQ(used, 1);
+  GlobalFree(handle);
+  handle = text_handle("plain");
+  EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_mbcs_handle(&handle, 1252), 6);
+  EXPECT_EQ(used, 0);
+  GlobalFree(handle);
+  // MBCS to UTF-8 never touches the flag.
+  used = 5;
+  handle = text_handle("abc");
+  KILNUTIL_UNICODE_mbcs_to_UTF8_handle(&handle, 1252);
+  EXPECT_EQ(used, 5);
+  GlobalFree(handle);
+  EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_mbcs_handle_conversion_default_char_used_check(previous), &used);
+}
+
+TEST(HandleConversion, Utf8ToUtf16Handle) {
+  for (int movable : {0, 1}) {
+    HGLOBAL source = text_handle("a\xC3\xA9\xF0\x9F\x98\x80");
+    HGLOBAL wide = KILNUTIL_UNICODE_UTF8_to_UTF16_handle(source, movable, 0);
+    ASSERT_NE(wide, nullptr);
+    EXPECT_EQ(GlobalSize(wide), 10u);  // a, é, a surrogate pair, zero
+    const auto* units = static_cast<const KILN_WCHAR*>(GlobalLock(wide));
+    EXPECT_EQ(std::u16string(units), u"a\u00E9\U0001F600");
+    GlobalUnlock(wide);
+    GlobalFree(wide);
+    EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_UTF16_handle(source, movable, 1) != nullptr, true);
+  }
+  EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_UTF16_handle(nullptr, 1, 1), nullptr);
+}
+
+// Sample texts in each code page, compared with glibc's iconv on characters
+// both converters map the same way.
+struct CodePageSample {
+  int code_page;
+  const char* iconv_name;
+  const char* utf8;
+};
+
+TEST(CodePageTables, AgreeWithIconvOnSampleTexts) {
+  const CodePageSample samples[] = {
+      {1252, "CP1252", "\xE2\x80\x9C" "Caf\xC3\xA9 na\xC3\xAFve \xE2\x82\xAC" "5 \xC2\xBD \xC3\x9F\xC3\xB8\xC3\x85\xE2\x80\x9D \xE2\x84\xA2"},
+      {932, "CP932", "\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E\xE3\x81\xAE\xE3\x83\x86\xE3\x82\xAD\xE3\x82\xB9\xE3\x83\x88 "
+                     "\xEF\xBD\xB1\xEF\xBD\xB2 ABC \xE3\x80\x82"},
+      {936, "CP936", "\xE4\xB8\xAD\xE6\x96\x87\xE6\x96\x87\xE6\x9C\xAC\xEF\xBC\x8C\xE6\xB5\x8B\xE8\xAF\x95 ABC \xE3\x80\x82"},
+  };
+  for (const CodePageSample& sample : samples) {
+    const auto expected = iconv_convert("UTF-8", sample.iconv_name, sample.utf8);
+    ASSERT_TRUE(expected.has_value()) << sample.iconv_name;
+    EXPECT_EQ(utf8_to_mbcs(sample.utf8, sample.code_page), *expected) << sample.code_page;
+    EXPECT_EQ(mbcs_to_utf8(*expected, sample.code_page), sample.utf8) << sample.code_page;
+  }
+}
+
+TEST(CodePageTables, Every1252ByteAgreesWithIconv) {
+  for (int byte = 1; byte < 256; ++byte) {
+    const std::string one(1, static_cast<char>(byte));
+    const auto expected = iconv_convert("CP1252", "UTF-8", one);
+    if (!expected) continue;  // the five bytes iconv leaves undefined
+    EXPECT_EQ(mbcs_to_utf8(one, 1252), *expected) << byte;
+  }
+}
+
+}  // namespace

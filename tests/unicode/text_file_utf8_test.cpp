@@ -1,0 +1,201 @@
+#include "test_files.h"
+
+#include <kilnutil/frame.h>
+#include <kilnutil/unicode.h>
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <cstring>
+#include <string>
+
+namespace {
+
+using kiln_test::iconv_convert;
+using kiln_test::TempFolder;
+using kiln_test::write_file;
+
+const std::string kText = "Gr\xC3\xBC\xC3\x9F" "e \xE2\x82\xAC\r\nzweite Zeile\r\n";
+
+std::string read_rest(FILE* stream) {
+  std::string text;
+  for (int c; (c = std::fgetc(stream)) != EOF;) text += static_cast<char>(c);
+  return text;
+}
+
+std::string temporary_path(const TextFileToUTF8Context& context) {
+  char path[2048];
+  return KILNUTIL_UNICODE_UTF16_to_UTF8_buffers(path, sizeof path, context.temp_path) > 0 ? path : "";
+}
+
+// One file opened through the protocol, with $TMPDIR pointing into the
+// test's folder so the converted copy can be watched.
+class OpenAsUtf8 : public ::testing::Test {
+protected:
+  void SetUp() override {
+    const char* old = std::getenv("TMPDIR");
+    saved_tmpdir_ = old != nullptr ? old : "";
+    had_tmpdir_ = old != nullptr;
+    copies_.emplace();
+    setenv("TMPDIR", copies_->path().c_str(), 1);
+    KILNUTIL_UNICODE_open_text_file_to_UTF8_INIT(&context_);
+    context_.fallback_mode = "rb";
+    context_.binary_reopen = 1;
+    context_.guess = 1;
+  }
+  void TearDown() override {
+    if (had_tmpdir_) setenv("TMPDIR", saved_tmpdir_.c_str(), 1);
+    else unsetenv("TMPDIR");
+  }
+
+  FILE* begin(const std::string& bytes) {
+    path_ = files_.file("input.txt");
+    write_file(path_, bytes);
+    std::strcpy(context_.path, path_.c_str());
+    caller_stream_ = std::fopen(path_.c_str(), "rb");
+    return KILNUTIL_UNICODE_open_text_file_to_UTF8_BEGIN(caller_stream_, &context_);
+  }
+
+  TempFolder files_;
+  std::optional<TempFolder> copies_;
+  TextFileToUTF8Context context_;
+  std::string path_;
+  FILE* caller_stream_ = nullptr;
+  std::string saved_tmpdir_;
+  bool had_tmpdir_ = false;
+};
+
+TEST_F(OpenAsUtf8, Utf16LittleEndianIsConvertedIntoATemporaryCopy) {
+  FILE* stream = begin("\xFF\xFE" + *iconv_convert("UTF-8", "UTF-16LE", kText));
+  ASSERT_NE(stream, nullptr);
+  EXPECT_EQ(stream, context_.converted_stream);
+  const std::string copy = temporary_path(context_);
+  EXPECT_EQ(copy.rfind(copies_->path().string() + "/VU8", 0), 0u) << copy;
+  EXPECT_EQ(context_.mark_size, 0);
+  EXPECT_EQ(read_rest(stream), kText);
+  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
+  EXPECT_EQ(context_.converted_stream, nullptr);
+  EXPECT_EQ(context_.temp_path[0], 0);
+  EXPECT_EQ(copies_->entry_count(), 0u);  // the copy is gone
+}
+
+TEST_F(OpenAsUtf8, TheCopyCanStartWithAMark) {
+  context_.write_mark = 1;
+  FILE* stream = begin(*iconv_convert("UTF-8", "UTF-16LE", kText));  // no mark: guessed
+  ASSERT_NE(stream, nullptr);
+  EXPECT_EQ(context_.mark_size, 3);
+  EXPECT_EQ(read_rest(stream), "\xEF\xBB\xBF" + kText);
+  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
+  EXPECT_EQ(copies_->entry_count(), 0u);
+}
+
+TEST_F(OpenAsUtf8, CodePageTextUsesTheEffectiveCodePage) {
+  const unsigned previous = set_code_page_for_string_process(932);
+  const std::string japanese = "\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E\n";
+  FILE* stream = begin(*iconv_convert("UTF-8", "SHIFT_JIS", japanese));
+  set_code_page_for_string_process(previous);
+  ASSERT_NE(stream, nullptr);
+  EXPECT_EQ(read_rest(stream), japanese);
+  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
+  EXPECT_EQ(copies_->entry_count(), 0u);
+}
+
+TEST_F(OpenAsUtf8, PlainAsciiIsCopiedToo) {
+  FILE* stream = begin("just ASCII\n");
+  ASSERT_NE(stream, nullptr);
+  EXPECT_EQ(stream, context_.converted_stream);
+  EXPECT_EQ(copies_->entry_count(), 1u);
+  EXPECT_EQ(read_rest(stream), "just ASCII\n");
+  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
+  EXPECT_EQ(copies_->entry_count(), 0u);
+}
+
+TEST_F(OpenAsUtf8, Utf8IsReadInPlacePastItsMark) {
+  FILE* stream = begin("\xEF\xBB\xBF" + kText);
+  EXPECT_EQ(stream, caller_stream_);
+  EXPECT_EQ(context_.mark_size, 3);
+  EXPECT_EQ(read_rest(stream), kText);
+  EXPECT_EQ(context_.converted_stream, nullptr);
+  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
+}
+
+TEST_F(OpenAsUtf8, KeepMarkLeavesTheStreamAtTheStart) {
+  context_.keep_mark = 1;
+  FILE* stream = begin("\xEF\xBB\xBF" + kText);
+  EXPECT_EQ(stream, caller_stream_);
+  EXPECT_EQ(context_.mark_size, 3);
+  EXPECT_EQ(read_rest(stream), "\xEF\xBB\xBF" + kText);
+  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
+}
+
+TEST_F(OpenAsUtf8, BigEndianIsHandedBackAtOffsetZero) {
+  FILE* stream = begin("\xFE\xFF" + *iconv_convert("UTF-8", "UTF-16BE", kText));
+  EXPECT_EQ(stream, caller_stream_);
+  EXPECT_EQ(context_.mark_size, 2);
+  EXPECT_EQ(std::ftell(stream), 0);
+  EXPECT_EQ(copies_->entry_count(), 0u);
+  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
+}
+
+TEST_F(OpenAsUtf8, NoConversionOnlySkipsTheMark) {
+  context_.no_conversion = 1;
+  FILE* stream = begin("\xFF\xFE" "a\0b\0" + std::string(1, '\0'));
+  EXPECT_EQ(stream, caller_stream_);
+  EXPECT_EQ(context_.mark_size, 2);
+  EXPECT_EQ(std::ftell(stream), 2);
+  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
+}
+
+TEST_F(OpenAsUtf8, GuessOffTakesUnmarkedUtf16AsCodePageText) {
+  context_.guess = 0;
+  const unsigned previous = set_code_page_for_string_process(1252);
+  FILE* stream = begin(*iconv_convert("UTF-8", "UTF-16LE", "ab"));
+  set_code_page_for_string_process(previous);
+  // "a" 00 "b" 00 as code-page text ends at the first zero byte.
+  ASSERT_NE(stream, nullptr);
+  EXPECT_EQ(read_rest(stream), "a");
+  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
+}
+
+TEST_F(OpenAsUtf8, EmptyFileGivesAnEmptyCopy) {
+  context_.write_mark = 1;
+  FILE* stream = begin("");
+  ASSERT_NE(stream, nullptr);
+  EXPECT_EQ(read_rest(stream), "\xEF\xBB\xBF");
+  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
+  EXPECT_EQ(copies_->entry_count(), 0u);
+}
+
+TEST_F(OpenAsUtf8, TextThatConvertsToNothingFallsBack) {
+  // Zero bytes only: code-page text that converts to an empty string.
+  FILE* stream = begin(std::string(8, '\0'));
+  ASSERT_NE(stream, nullptr);
+  EXPECT_EQ(context_.converted_stream, nullptr);
+  EXPECT_EQ(context_.temp_path[0], 0);
+  EXPECT_EQ(copies_->entry_count(), 0u);
+  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
+}
+
+TEST_F(OpenAsUtf8, MissingSettingsLeaveTheStreamAlone) {
+  context_.fallback_mode = nullptr;
+  FILE* stream = begin("abc");
+  EXPECT_EQ(stream, caller_stream_);
+  EXPECT_EQ(std::ftell(stream), 0);
+  std::fclose(stream);
+  EXPECT_EQ(KILNUTIL_UNICODE_open_text_file_to_UTF8_BEGIN(nullptr, nullptr), nullptr);
+}
+
+TEST(OpenAsUtf8Init, ClearsTheWholeRecord) {
+  TextFileToUTF8Context context;
+  std::memset(&context, 0xAB, sizeof context);
+  KILNUTIL_UNICODE_open_text_file_to_UTF8_INIT(&context);
+  const auto* bytes = reinterpret_cast<const unsigned char*>(&context);
+  for (size_t i = 0; i < sizeof context; ++i) ASSERT_EQ(bytes[i], 0) << i;
+  // The layout a host relies on.
+  EXPECT_EQ(offsetof(TextFileToUTF8Context, temp_path), 1040u);
+  EXPECT_EQ(offsetof(TextFileToUTF8Context, binary_reopen), 2080u);
+  EXPECT_EQ(offsetof(TextFileToUTF8Context, mark_size), 2104u);
+  EXPECT_EQ(offsetof(TextFileToUTF8Context, no_conversion), 2128u);
+}
+
+}  // namespace

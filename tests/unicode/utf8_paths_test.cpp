@@ -1,0 +1,91 @@
+#include "test_files.h"
+
+#include <kilnutil/unicode.h>
+
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstdint>
+#include <string>
+
+namespace {
+
+using kiln_test::iconv_convert;
+using kiln_test::read_file;
+using kiln_test::TempFolder;
+using kiln_test::write_file;
+
+TEST(Utf8Paths, FopenTakesRuntimeModes) {
+  TempFolder folder;
+  const std::string path = folder.file("\xC3\xBC\xE6\x97\xA5.txt");
+  FILE* out = KILNUTIL_UTF8_fopen(path.c_str(), "wtN");
+  ASSERT_NE(out, nullptr);
+  std::fputs("line\n", out);
+  std::fclose(out);
+  FILE* in = KILNUTIL_UTF8_fopen(path.c_str(), "rt, ccs=UTF-8");
+  ASSERT_NE(in, nullptr);
+  char buffer[16] = {};
+  EXPECT_NE(std::fgets(buffer, sizeof buffer, in), nullptr);
+  EXPECT_STREQ(buffer, "line\n");
+  std::fclose(in);
+  EXPECT_EQ(KILNUTIL_UTF8__access(path.c_str(), 0), 0);
+  EXPECT_EQ(KILNUTIL_UTF8__access(path.c_str(), 6), 0);
+  EXPECT_EQ(KILNUTIL_UTF8__access(folder.file("missing").c_str(), 0), -1);
+}
+
+TEST(Utf8Paths, PathsLongerThanTheWideBufferFail) {
+  const std::string long_path = "/tmp/" + std::string(1040, 'a');
+  EXPECT_EQ(KILNUTIL_UTF8_fopen(long_path.c_str(), "rb"), nullptr);
+  EXPECT_EQ(KILNUTIL_UTF8__access(long_path.c_str(), 0), -1);
+  EXPECT_EQ(KILNUTIL_UTF8_CreateFile(long_path.c_str(), 0x80000000u, 0, nullptr, 3, 0, nullptr), INVALID_HANDLE_VALUE);
+  EXPECT_EQ(KILNUTIL_UTF8_fopen(nullptr, "rb"), nullptr);
+}
+
+TEST(Utf8Paths, CreateFileDispositions) {
+  TempFolder folder;
+  const std::string path = folder.file("c.bin");
+  constexpr unsigned kRead = 0x80000000u, kWrite = 0x40000000u;
+  EXPECT_EQ(KILNUTIL_UTF8_CreateFile(path.c_str(), kRead, 0, nullptr, 3, 0, nullptr), INVALID_HANDLE_VALUE);
+  HANDLE created = KILNUTIL_UTF8_CreateFile(path.c_str(), kWrite, 0, nullptr, 1, 0x80, nullptr);
+  ASSERT_NE(created, INVALID_HANDLE_VALUE);
+  const int descriptor = static_cast<int>(reinterpret_cast<intptr_t>(created));
+  EXPECT_EQ(write(descriptor, "abc", 3), 3);
+  close(descriptor);
+  EXPECT_EQ(KILNUTIL_UTF8_CreateFile(path.c_str(), kWrite, 0, nullptr, 1, 0, nullptr), INVALID_HANDLE_VALUE);
+  HANDLE truncated = KILNUTIL_UTF8_CreateFile(path.c_str(), kWrite, 0, nullptr, 5, 0, nullptr);
+  ASSERT_NE(truncated, INVALID_HANDLE_VALUE);
+  close(static_cast<int>(reinterpret_cast<intptr_t>(truncated)));
+  EXPECT_EQ(read_file(path), "");
+  EXPECT_EQ(KILNUTIL_UTF8_CreateFile(path.c_str(), kRead, 0, nullptr, 9, 0, nullptr), INVALID_HANDLE_VALUE);
+}
+
+TEST(UnicodeFileToAnsi, WritesUtf16TextAsAnsiText) {
+  TempFolder folder;
+  const std::string source = folder.file("w.txt");
+  const std::string target = folder.file("a.txt");
+  write_file(source, "\xFF\xFE" + *iconv_convert("UTF-8", "UTF-16LE", "caf\xC3\xA9\r\n"));
+  EXPECT_EQ(KILNUTIL_ConvertUNICODEtoMBCS(source.c_str(), target.c_str()), 1);
+  EXPECT_EQ(read_file(target), "caf\xE9\r\n");  // the C locale's ANSI code page is 1252
+  // Without a mark the first two bytes are still skipped.
+  write_file(source, *iconv_convert("UTF-8", "UTF-16LE", "xy\r\n"));
+  EXPECT_EQ(KILNUTIL_ConvertUNICODEtoMBCS(source.c_str(), target.c_str()), 1);
+  EXPECT_EQ(read_file(target), "y\r\n");
+}
+
+TEST(UnicodeFileToAnsi, OtherFilesWriteNothing) {
+  TempFolder folder;
+  const std::string source = folder.file("n.txt");
+  const std::string target = folder.file("a.txt");
+  write_file(target, "previous");
+  write_file(source, "plain narrow text\n");
+  EXPECT_EQ(KILNUTIL_ConvertUNICODEtoMBCS(source.c_str(), target.c_str()), 0);
+  EXPECT_EQ(read_file(target), "");
+  write_file(source, "\xFE\xFF" + *iconv_convert("UTF-8", "UTF-16BE", "big"));
+  EXPECT_EQ(KILNUTIL_ConvertUNICODEtoMBCS(source.c_str(), target.c_str()), 0);
+  EXPECT_EQ(KILNUTIL_ConvertUNICODEtoMBCS(folder.file("missing").c_str(), target.c_str()), 0);
+  EXPECT_EQ(KILNUTIL_ConvertUNICODEtoMBCS(source.c_str(), folder.file("no/such/dir").c_str()), 0);
+}
+
+}  // namespace
