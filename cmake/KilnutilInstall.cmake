@@ -20,5 +20,8 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/kilnutilConfigVersion.cma
 install(FILES ${PROJECT_BINARY_DIR}/kilnutilConfig.cmake ${PROJECT_BINARY_DIR}/kilnutilConfigVersion.cmake
   DESTINATION ${KILNUTIL_CMAKE_DIR})
 
+# The pkg-config file finds its prefix relative to where it is installed, so
+# an installation moved or made with `cmake --install --prefix` stays right.
+string(REGEX REPLACE "[^/]+" ".." KILNUTIL_PC_TO_PREFIX "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
 configure_file(${PROJECT_SOURCE_DIR}/cmake/kilnutil.pc.in ${PROJECT_BINARY_DIR}/kilnutil.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/kilnutil.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

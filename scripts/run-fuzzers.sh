@@ -16,8 +16,11 @@ for target in build/fuzz/fuzz/fuzz_*; do
   corpus=$(mktemp -d)
   [ -d "fuzz/corpus/$name" ] && cp -r "fuzz/corpus/$name/." "$corpus/"
   echo "-- $name (${seconds}s)"
-  if ! "$target" -max_total_time="$seconds" -print_final_stats=0 "$corpus" 2>"$corpus.log"; then
+  if ! "$target" -max_total_time="$seconds" -artifact_prefix="$corpus/" "$corpus" 2>"$corpus.log"; then
     tail -n 40 "$corpus.log"
+    for crash in "$corpus"/crash-* "$corpus"/leak-* "$corpus"/timeout-*; do
+      [ -f "$crash" ] && echo "input (base64): $(base64 -w0 "$crash")"
+    done
     status=1
   else
     grep -E '^Done|^#[0-9]+.*DONE' "$corpus.log" | tail -n 1 || true

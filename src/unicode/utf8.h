@@ -7,6 +7,7 @@
 // and 0xF8-0xFF four), and no walk can ever pass the terminating NUL.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 namespace kiln::unicode {
@@ -96,6 +97,19 @@ inline const char* utf8_go_back(const char* p) {
   if (b[-2] & 0x40) return p - 2;
   if (b[-3] & 0x40) return p - 3;
   return p - 4;
+}
+
+// The same walk back, for a caller that knows where its string starts: bytes
+// before `start` are never looked at, and the walk stops at `start` when the
+// rule would go further (only malformed text can ask for that).
+inline const char* utf8_go_back_within(const char* p, const char* start) {
+  const auto* b = reinterpret_cast<const unsigned char*>(p);
+  const std::ptrdiff_t room = p - start;
+  if (b[-1] < 0x80 || room < 2) return p - 1;
+  if (b[-2] & 0x40) return p - 2;
+  if (room < 3) return start;
+  if (b[-3] & 0x40) return p - 3;
+  return room < 4 ? start : p - 4;
 }
 
 }  // namespace kiln::unicode

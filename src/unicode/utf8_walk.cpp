@@ -89,7 +89,8 @@ char* KILNUTIL_UTF8_get_ptr_to_last_char(const char* s, unsigned int* pch) {
   }
   const char* end = s;
   while (*end != '\0') ++end;
-  const char* last = kiln::unicode::utf8_go_back(end);
+  // Walks back from the NUL, but never before the string's first byte.
+  const char* last = kiln::unicode::utf8_go_back_within(end, s);
   if (pch != nullptr) *pch = KILNUTIL_UNICODE_UTF8_get_char(last);
   return mutable_position(last);
 }

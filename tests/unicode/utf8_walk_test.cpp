@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <random>
 #include <string>
 #include <vector>
@@ -141,6 +142,12 @@ TEST(Utf8LastChar, LastCharacterAndEmptyText) {
   const char one[] = "x";
   EXPECT_EQ(KILNUTIL_UTF8_get_ptr_to_last_char(one, nullptr), one);
   EXPECT_EQ(KILNUTIL_UTF8_get_last_char("x\xC3\xA9"), 0xE9u);
+  // Malformed text never walks back before the string's first byte.
+  std::unique_ptr<char[]> lone(new char[2]{'\x9F', '\0'});
+  EXPECT_EQ(KILNUTIL_UTF8_get_ptr_to_last_char(lone.get(), &cp), lone.get());
+  EXPECT_EQ(cp, 0x7C0u);
+  std::unique_ptr<char[]> three(new char[4]{'\xF0', '\x80', '\x80', '\0'});
+  EXPECT_EQ(KILNUTIL_UTF8_get_ptr_to_last_char(three.get(), nullptr), three.get());
 }
 
 }  // namespace
