@@ -8,5 +8,6 @@ namespace kilnutil_cli {
 int run_help(Args args);
 int run_version(Args args);
 int run_chars(Args args);
+int run_preview(Args args);
 
 }  // namespace kilnutil_cli
