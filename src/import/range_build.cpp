@@ -1,13 +1,7 @@
 // Building and reshaping cell ranges.
 #include "import/range_pairs.h"
 
-using kiln::import::covers_all;
-using kiln::import::Dim;
-using kiln::import::kAll;
-using kiln::import::kEmpty;
-using kiln::import::Pair;
-using kiln::import::set_pair;
-using kiln::import::wrapping_add;
+using namespace kiln::import;
 
 namespace {
 

@@ -4,16 +4,16 @@
 #include <algorithm>
 #include <optional>
 
-using kiln::import::covers_all;
-using kiln::import::Dim;
-using kiln::import::index_in_pair;
-using kiln::import::is_empty;
-using kiln::import::Pair;
-using kiln::import::pair_of;
-using kiln::import::runs_to_end;
-using kiln::import::set_pair;
+using namespace kiln::import;
 
 namespace {
+
+// A's value when it lies in B's pair, else B's value when it lies in A's.
+std::optional<int> value_inside_other(int a_value, int b_value, Pair pa, Pair pb) {
+  if (index_in_pair(a_value, pb)) return a_value;
+  if (index_in_pair(b_value, pa)) return b_value;
+  return std::nullopt;
+}
 
 // The common part of one dimension, or nothing. A pair that covers the whole
 // dimension yields the other one; two to-the-end pairs start at the later first.
@@ -23,22 +23,11 @@ std::optional<Pair> intersect_pairs(const CellRange& a, const CellRange& b, Dim 
   if (covers_all(a, dim)) return pb;
   if (covers_all(b, dim)) return pa;
   if (runs_to_end(pa) && runs_to_end(pb)) return Pair{std::max(pa.first, pb.first), -1};
-  Pair out{};
-  if (index_in_pair(pa.first, pb)) {
-    out.first = pa.first;
-  } else if (index_in_pair(pb.first, pa)) {
-    out.first = pb.first;
-  } else {
-    return std::nullopt;
-  }
-  if (index_in_pair(pa.last, pb)) {
-    out.last = pa.last;
-  } else if (index_in_pair(pb.last, pa)) {
-    out.last = pb.last;
-  } else {
-    return std::nullopt;
-  }
-  return out;
+  const std::optional<int> first = value_inside_other(pa.first, pb.first, pa, pb);
+  if (!first) return std::nullopt;
+  const std::optional<int> last = value_inside_other(pa.last, pb.last, pa, pb);
+  if (!last) return std::nullopt;
+  return Pair{*first, *last};
 }
 
 bool within(int value, int low, int high) { return low <= value && value <= high; }

@@ -2,14 +2,7 @@
 // columns and cells, containment and overlap.
 #include "import/range_pairs.h"
 
-using kiln::import::covers_all;
-using kiln::import::Dim;
-using kiln::import::index_in_pair;
-using kiln::import::is_empty;
-using kiln::import::kAll;
-using kiln::import::Pair;
-using kiln::import::pair_of;
-using kiln::import::runs_to_end;
+using namespace kiln::import;
 
 namespace {
 
