@@ -177,9 +177,10 @@ KILNUTIL_API char* KILNUTIL_NextTokenA(char* dest, const char* text, const char*
 KILNUTIL_API KILN_WCHAR* KILNUTIL_NextTokenW(KILN_WCHAR* dest, const KILN_WCHAR* text, const KILN_WCHAR* separators,
                                              int size);
 /* Splits at exposed sep (0: ","; -1: white space), at most max separators
- * (-1: no limit; with -1 and 60000 the single quote is ordinary); stores the
- * trimmed tokens when list is given. Separators + 1, or the separators found
- * when the limit was reached. */
+ * when max is above 0 (with -1 and 60000 the single quote is ordinary); stores
+ * the trimmed tokens when list is given. Separators + 1, or the separators
+ * found when the limit was reached. The narrow form is
+ * KILNUTIL_separate_str_to_token_list. */
 KILNUTIL_API int KILNUTIL_SeparateStrToTokensA(char* text, char** list, int sep, int max);
 KILNUTIL_API int KILNUTIL_SeparateStrToTokensW(KILN_WCHAR* text, KILN_WCHAR** list, int sep, int max);
 /* Tokens in the first line (the text is restored). */

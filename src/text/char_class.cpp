@@ -6,6 +6,7 @@
 #include <kilnutil/text.h>
 
 #include <array>
+#include <initializer_list>
 
 namespace kiln::text {
 

@@ -9,6 +9,7 @@
 #include "text/letter_case.h"
 
 #include <cstdint>
+#include <initializer_list>
 
 namespace kiln::text {
 
@@ -57,12 +58,20 @@ struct AnySpace {
   bool operator()(unsigned c) const { return is_space(c); }
 };
 
-// Positions of the quote closing the section whose opening quote lies just
-// before p, or null when the text ends first.
+// The position of the quote closing the section whose opening quote lies
+// just before p, or null when the text ends first.
 template <class Ch>
 const Ch* closing_quote(const Ch* p, unsigned quote, bool escapes) {
   bool escaped = false;
   for (;;) {
+    if constexpr (sizeof(Ch) == 1) {
+      // Plain ASCII bytes inside the section: nothing to do but step on.
+      while (!escaped) {
+        const auto b = static_cast<unsigned char>(*p);
+        if (b == quote || b == '\\' || b == 0 || b >= 0x80) break;
+        ++p;
+      }
+    }
     const Ch* at = p;
     const unsigned c = read_char(p);
     if (c == 0) return nullptr;
@@ -105,79 +114,101 @@ const Ch* numeric_literal_end(const Ch* start) {
   }
 }
 
+// What the exposed search does at an ASCII character besides the target test.
+enum class ScanRole : unsigned char { kPlain, kQuote, kNumber, kOpen, kClose, kStop };
+
+struct ScanTables {
+  ScanRole role[256]{};        // kStop: NUL and bytes from 0x80 (read as characters)
+  unsigned char pair[128]{};   // the pair index of a bracket character
+};
+
+inline constexpr ScanTables kScanTables = [] {
+  ScanTables t;
+  for (unsigned char c : {'"', '\''}) t.role[c] = ScanRole::kQuote;
+  for (unsigned char c : {'0', '1', '2', '3', '4', '5', '6', '7', '8', '9', '.'}) t.role[c] = ScanRole::kNumber;
+  for (unsigned char i = 0; i < 4; ++i) {
+    const auto opener = static_cast<unsigned char>(kPairOpeners[i]);
+    const auto closer = static_cast<unsigned char>(kPairClosers[i]);
+    t.role[opener] = ScanRole::kOpen;
+    t.role[closer] = ScanRole::kClose;
+    t.pair[opener] = t.pair[closer] = i;
+  }
+  t.role[0] = ScanRole::kStop;
+  for (int b = 0x80; b < 0x100; ++b) t.role[b] = ScanRole::kStop;
+  return t;
+}();
+
+// Narrow text: the position of the first byte that is not a plain ASCII
+// character other than the target (nothing to do there but step on).
+template <class Match>
+const char* skip_plain_bytes(const char* p, const Match& match) {
+  auto stops = [&match](const char* q) {
+    const auto b = static_cast<unsigned char>(*q);
+    return kScanTables.role[b] != ScanRole::kPlain || match(b);
+  };
+  // Each byte is looked at only when the one before it was no NUL.
+  for (;; p += 4) {
+    if (stops(p)) return p;
+    if (stops(p + 1)) return p + 1;
+    if (stops(p + 2)) return p + 2;
+    if (stops(p + 3)) return p + 3;
+  }
+}
+
 // The exposed search. Returns the first exposed match before end (when
 // given), or null; *status becomes -1 when a quoted section is left open.
 // *first_skipped receives the first quoted section or literal skipped.
 template <class Ch, class Match>
 const Ch* exposed_scan(const Ch* text, const Ch* end, const Match& match, const ScanRules& rules, int* status,
                        const Ch** first_skipped) {
-  enum Role : unsigned char { kPlain, kQuote, kNumber, kOpen, kClose };
-  static constexpr auto kRoles = [] {
-    struct {
-      unsigned char role[128]{};
-      unsigned char pair[128]{};
-    } t;
-    t.role['"'] = t.role['\''] = kQuote;
-    for (int c = '0'; c <= '9'; ++c) t.role[c] = kNumber;
-    t.role['.'] = kNumber;
-    for (unsigned char i = 0; i < 4; ++i) {
-      t.role[static_cast<unsigned char>(kPairOpeners[i])] = kOpen;
-      t.role[static_cast<unsigned char>(kPairClosers[i])] = kClose;
-      t.pair[static_cast<unsigned char>(kPairOpeners[i])] = i;
-      t.pair[static_cast<unsigned char>(kPairClosers[i])] = i;
-    }
-    return t;
-  }();
-
   int open = -1;  // pair index of the open bracket
   std::uint8_t depth = 0;
-  bool single_quote = rules.single_quote;
-  auto note_skipped = [first_skipped](const Ch* at) {
-    if (*first_skipped == nullptr) *first_skipped = at;
-  };
   for (const Ch* p = text;;) {
+    if constexpr (sizeof(Ch) == 1) {
+      if (end == nullptr) p = skip_plain_bytes(p, match);
+    }
     if (end != nullptr && p >= end) return nullptr;
     const Ch* at = p;
     const unsigned c = read_char(p);
     if (c == 0) return nullptr;
     if (open < 0 && match(c)) return at;
-    if (c < 128 && kRoles.role[c] != kPlain) {
-      switch (kRoles.role[c]) {
-        case kQuote:
-          if (c == '"' ? rules.double_quote : single_quote) {
-            note_skipped(at);
-            const Ch* closing = closing_quote(p, c, rules.escapes);
-            if (closing == nullptr) {
-              if (status != nullptr) *status = -1;
-              return nullptr;
-            }
-            p = closing + 1;
+    if (c >= 128) continue;
+    switch (kScanTables.role[c]) {
+      case ScanRole::kQuote:
+        if (c == '"' ? rules.double_quote : rules.single_quote && (at == text || !rules.single_quote_first_only)) {
+          if (*first_skipped == nullptr) *first_skipped = at;
+          const Ch* closing = closing_quote(p, c, rules.escapes);
+          if (closing == nullptr) {
+            if (status != nullptr) *status = -1;
+            return nullptr;
           }
-          break;
-        case kNumber:
-          if (rules.skip_numbers) {
-            note_skipped(at);
-            p = numeric_literal_end(at) + 1;
-          }
-          break;
-        case kOpen: {
-          const int pair = kRoles.pair[c];
-          if (open < 0) {
-            if (rules.pairs & (1u << pair)) {
-              open = pair;
-              depth = 1;
-            }
-          } else if (open == pair) {
-            ++depth;
-          }
-          break;
+          p = closing + 1;
         }
-        case kClose:
-          if (open == kRoles.pair[c] && --depth == 0) open = -1;
-          break;
+        break;
+      case ScanRole::kNumber:
+        if (rules.skip_numbers) {
+          if (*first_skipped == nullptr) *first_skipped = at;
+          p = numeric_literal_end(at) + 1;
+        }
+        break;
+      case ScanRole::kOpen: {
+        const int pair = kScanTables.pair[c];
+        if (open < 0) {
+          if (rules.pairs & (1u << pair)) {
+            open = pair;
+            depth = 1;
+          }
+        } else if (open == pair) {
+          ++depth;
+        }
+        break;
       }
+      case ScanRole::kClose:
+        if (open == kScanTables.pair[c] && --depth == 0) open = -1;
+        break;
+      default:
+        break;
     }
-    if (at == text && rules.single_quote_first_only) single_quote = false;
   }
 }
 

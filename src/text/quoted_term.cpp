@@ -56,7 +56,7 @@ char* KILNUTIL_next_quoted_term_ex_ex(char* dest, const char* text, int sep, int
     const char* at = p;
     const unsigned c = read_char(p);
     if (c == 0) break;
-    if (c == q && n > 0) {
+    if (c == q) {
       const unsigned next = char_at(p);
       if (next == q) {  // a doubled quote stands for itself
         const char* behind = after_char(p);

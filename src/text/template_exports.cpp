@@ -36,7 +36,7 @@ Ch* KILNUTILT_NextToken(Ch* dest, const Ch* text, const Ch* separators, int size
 
 template <class Ch>
 int KILNUTILT_SeparateStrToTokenList(Ch* text, Ch** list, int sep, int max) {
-  return kiln::text::separate_tokens(text, list, sep, max);
+  return kiln::text::separate_str_to_token_list(text, list, sep, max);
 }
 
 template <class Ch>

@@ -10,6 +10,7 @@
 #include "text/exposed_search.h"
 #include "text/letter_case.h"
 #include "text/strchr.h"
+#include "text/token_list.h"
 #include "text/trim.h"
 
 #include <kilnutil/frame.h>
@@ -20,14 +21,7 @@ inline constexpr int kTab = '\t';
 inline constexpr int kLineFeed = '\n';
 inline constexpr int kCarriageReturn = '\r';
 
-// Token-list flags: numbers are never skipped and "<" ">" are never brackets;
-// with the two special limits (none, and 60000) the single quote is ordinary.
-inline constexpr unsigned kTokenListFlags = 0x8000040;
-inline constexpr unsigned kTokenListOpenFlags = 0x18000040;
 inline constexpr int kNoLimit = -1;
-inline constexpr int kQuoteFreeLimit = 60000;
-// Target of the exposed search that matches any white space.
-inline constexpr int kAnySpace = 0;
 
 // The process-wide separator-exclusion character: a separator that
 // separator detection must not pick (the decimal separator in use, say).
@@ -112,42 +106,12 @@ Ch* next_token(Ch* dest, const Ch* text, const Ch* separators, int size) {
   return mutable_pos(p);
 }
 
-// ---- Token lists.
-
-// Splits text at exposed separators (sep 0: ","; -1: white space), at most max
-// of them (-1: no limit). With list, cuts the text and stores the trimmed
-// tokens. Returns separators found + 1, or only the separators found when the
-// limit was reached (the rest is then not stored).
-template <class Ch>
-int separate_tokens(Ch* text, Ch** list, int sep, int max) {
-  if (text == nullptr || *text == 0) return 0;
-  const int target = sep == 0 ? ',' : sep == -1 ? kAnySpace : sep;
-  const unsigned flags = (max == kNoLimit || max == kQuoteFreeLimit) ? kTokenListOpenFlags : kTokenListFlags;
-  int found = 0;
-  Ch* token = text;
-  while (max == kNoLimit || found < max) {
-    Ch* at = exposed_pos(token, target, flags, nullptr);
-    if (at == nullptr) break;
-    Ch* next = mutable_pos(after_char(at));
-    if (list != nullptr) {
-      *at = 0;
-      list[found] = trim_both(token);
-    }
-    ++found;
-    if (target == kAnySpace) next = mutable_pos(skip_spaces(next));
-    token = next;
-  }
-  if (max != kNoLimit && found >= max) return found;
-  if (list != nullptr) list[found] = trim_both(token);
-  return found + 1;
-}
-
 // ---- Lines and fields.
 
 // The first line feed, found as the token splitter would see it.
 template <class Ch>
 Ch* line_end(Ch* text) {
-  return exposed_pos(text, kLineFeed, kTokenListOpenFlags, nullptr);
+  return exposed_pos(text, kLineFeed, token_list_flags(kNoLimit), nullptr);
 }
 
 // Tokens in the first line (ending at its line feed, or at a carriage return
@@ -159,7 +123,7 @@ int first_line_tokens(Ch* text, int sep) {
   if (cut != nullptr && cut > text && cut[-1] == kCarriageReturn) --cut;
   const Ch saved = cut != nullptr ? *cut : Ch{0};
   if (cut != nullptr) *cut = 0;
-  const int n = separate_tokens(text, static_cast<Ch**>(nullptr), sep, kNoLimit);
+  const int n = separate_str_to_token_list(text, static_cast<Ch**>(nullptr), sep, kNoLimit);
   if (cut != nullptr) *cut = saved;
   return n;
 }

@@ -93,6 +93,10 @@ TEST(QuotedTerm, DoubledQuotesAndKeptQuotes) {
   const char empty_quoted[] = "\"\"a,b";
   EXPECT_EQ(offset(empty_quoted, KILNUTIL_next_quoted_term_ex_ex(dest, empty_quoted, ',', '"', 1, -1)), 4);
   EXPECT_STREQ(dest, "\"a");
+  // Unquoted, a quote right before the separator still closes the term.
+  const char inner[] = "ab\",c";
+  EXPECT_EQ(offset(inner, KILNUTIL_next_quoted_term_ex_ex(dest, inner, ',', '"', 1, -1)), 4);
+  EXPECT_STREQ(dest, "ab");
   const char single[] = "'a;b';c";
   EXPECT_EQ(offset(single, KILNUTIL_next_quoted_term_ex_ex(dest, single, ';', '\'', 0, -1)), 6);
   EXPECT_STREQ(dest, "'a;b'");

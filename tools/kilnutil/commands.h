@@ -9,5 +9,6 @@ int run_help(Args args);
 int run_version(Args args);
 int run_chars(Args args);
 int run_preview(Args args);
+int run_split(Args args);
 
 }  // namespace kilnutil_cli

@@ -16,6 +16,7 @@ constexpr Command kCommands[] = {
     {"chars", "TEXT|-", "list each character of UTF-8 text: byte offset, code point, UTF-16 units", run_chars},
     {"preview", "FILE [--rows REQUEST] [--cols REQUEST] [--limit N] [--json]",
      "import a delimited text file as the host does and show the wanted cells", run_preview},
+    {"split", "[--statements|--terms|--tokens] [TEXT|-]", "cut script text into statements, terms or tokens", run_split},
 };
 
 }  // namespace
