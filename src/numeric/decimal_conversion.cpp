@@ -1,5 +1,6 @@
 #include "numeric/decimal_conversion.h"
 
+#include <bit>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
@@ -67,6 +68,21 @@ DecimalDigits scan_decimal(const char* p) {
   return d;
 }
 
+// The exact conversion of the digits, when their value is exact by one
+// multiplication or division by a power of ten; false otherwise.
+bool convert_exactly(const DecimalDigits& d, double* value) {
+  if (d.mantissa == 0) {
+    *value = 0.0;
+    return true;
+  }
+  if (d.truncated || d.mantissa > kMaxExactMantissa || d.exponent < -kMaxExactPower || d.exponent > kMaxExactPower) {
+    return false;
+  }
+  const double m = static_cast<double>(d.mantissa);
+  *value = d.exponent >= 0 ? m * kExactPowersOfTen[d.exponent] : m / kExactPowersOfTen[-d.exponent];
+  return true;
+}
+
 // A NaN or infinity name, a hexadecimal form or a decimal too long for the
 // exact path: the standard library converts the range [begin, end).
 double convert_by_library(const char* begin, const char* end, std::chars_format format, const char** used,
@@ -77,6 +93,78 @@ double convert_by_library(const char* begin, const char* end, std::chars_format 
   if (r.ec == std::errc::result_out_of_range) return too_large ? HUGE_VAL : 0.0;
   if (r.ec != std::errc{}) *used = begin;
   return value;
+}
+
+constexpr std::uint64_t kZeros = 0x3030303030303030ull;
+
+bool is_eight_digits(std::uint64_t word) {
+  return ((word & 0xF0F0F0F0F0F0F0F0ull) | (((word + 0x0606060606060606ull) & 0xF0F0F0F0F0F0F0F0ull) >> 4)) ==
+         0x3333333333333333ull;
+}
+
+// The value of eight decimal digits, the first byte the most significant.
+std::uint64_t eight_digits_value(std::uint64_t word) {
+  word -= kZeros;
+  word = word * 10 + (word >> 8);
+  return (((word & 0x000000FF000000FFull) * 0x000F424000000064ull) +
+          (((word >> 16) & 0x000000FF000000FFull) * 0x0000271000000001ull)) >>
+         32;
+}
+
+using Text128 = unsigned __int128;
+
+template <class Word>
+Word load(const char* p) {
+  Word word;
+  std::memcpy(&word, p, sizeof word);
+  return word;
+}
+
+// The bytes of a text of 2 to 16 bytes in one 128-bit value (first byte
+// lowest, zeros behind the text), from two overlapping loads inside it.
+Text128 load_short_text(const char* p, std::size_t length) {
+  if (length >= 8) {
+    return load<std::uint64_t>(p) | (Text128{load<std::uint64_t>(p + length - 8)} << (8 * (length - 8)));
+  }
+  if (length >= 4) {
+    return load<std::uint32_t>(p) | (std::uint64_t{load<std::uint32_t>(p + length - 4)} << (8 * (length - 4)));
+  }
+  return load<std::uint16_t>(p) | (std::uint32_t{load<std::uint16_t>(p + length - 2)} << (8 * (length - 2)));
+}
+
+// Index of the first byte equal to c in a word (8 when there is none).
+unsigned first_byte_equal(std::uint64_t word, char c) {
+  const std::uint64_t x = word ^ (0x0101010101010101ull * static_cast<unsigned char>(c));
+  const std::uint64_t zero_bytes = (x - 0x0101010101010101ull) & ~x & 0x8080808080808080ull;
+  return zero_bytes == 0 ? 8 : static_cast<unsigned>(__builtin_ctzll(zero_bytes)) / 8;
+}
+
+// Texts of 2 to 16 bytes with at most eight digits on each side of the
+// separator, read as two eight-digit words: the integer digits right-aligned
+// behind "0" padding, the fraction digits left-aligned and filled up with
+// "0". Then the value is (integer x 10^8 + fraction digits) / 10^8, one
+// correctly rounded division of exact operands.
+bool convert_short_plain_decimal(const char* p, std::size_t length, char separator, double* value) {
+  constexpr unsigned kSide = 8;
+  if constexpr (std::endian::native != std::endian::little) return false;
+  if (length < 2 || length > 2 * kSide) return false;
+  const Text128 text = load_short_text(p, length);
+  unsigned integer_length = first_byte_equal(static_cast<std::uint64_t>(text), separator);
+  if (integer_length == kSide) integer_length += first_byte_equal(static_cast<std::uint64_t>(text >> 64), separator);
+  if (integer_length >= length || integer_length > kSide) return false;
+  const auto fraction_length = static_cast<unsigned>(length) - integer_length - 1;
+  if (fraction_length > kSide) return false;
+
+  const auto integer_word = static_cast<std::uint64_t>((text << (8 * (kSide - integer_length))) |
+                                                       (Text128{kZeros} >> (8 * integer_length)));
+  const std::uint64_t kept = fraction_length == kSide ? ~0ull : (1ull << (8 * fraction_length)) - 1;
+  const auto fraction_word = (static_cast<std::uint64_t>(text >> (8 * (integer_length + 1))) & kept) | (kZeros & ~kept);
+  if (!is_eight_digits(integer_word) || !is_eight_digits(fraction_word)) return false;
+  const std::uint64_t integer = eight_digits_value(integer_word);
+  if (integer >= 90000000) return false;  // keeps the scaled mantissa below 2^53
+  const std::uint64_t mantissa = integer * 100000000 + eight_digits_value(fraction_word);
+  *value = static_cast<double>(mantissa) / kExactPowersOfTen[kSide];
+  return true;
 }
 
 }  // namespace
@@ -102,17 +190,35 @@ DecimalConversion convert_decimal_text(const char* text) {
     const double value = convert_by_library(p, p + std::strlen(p), std::chars_format::general, &used, true);
     return used == p ? DecimalConversion{0.0, text} : DecimalConversion{sign * value, used};
   }
-  if (d.mantissa == 0) return {sign * 0.0, d.end};
-  if (!d.truncated && d.mantissa <= kMaxExactMantissa && d.exponent >= -kMaxExactPower &&
-      d.exponent <= kMaxExactPower) {
-    const double m = static_cast<double>(d.mantissa);
-    const double value = d.exponent >= 0 ? m * kExactPowersOfTen[d.exponent] : m / kExactPowersOfTen[-d.exponent];
-    return {sign * value, d.end};
-  }
+  if (double exact = 0.0; convert_exactly(d, &exact)) return {sign * exact, d.end};
   const char* used = nullptr;
   const bool too_large = d.exponent + d.significant - 1 >= 0;
   const double value = convert_by_library(p, d.end, std::chars_format::general, &used, too_large);
   return {sign * value, d.end};
+}
+
+const char* convert_plain_decimal(const char* p, char separator, double* value) {
+  const std::size_t length = std::strlen(p);
+  if (convert_short_plain_decimal(p, length, separator, value)) return p + length;
+  // Every digit goes into the mantissa, leading zeros too; more than 19
+  // digits in all leave this path, so a mantissa that overflowed is never
+  // used.
+  std::uint64_t mantissa = 0;
+  const char* const start = p;
+  for (; is_digit(*p); ++p) mantissa = mantissa * 10 + static_cast<std::uint64_t>(*p - '0');
+  if (*p != separator) return nullptr;
+  const char* const fraction = ++p;
+  for (; is_digit(*p); ++p) mantissa = mantissa * 10 + static_cast<std::uint64_t>(*p - '0');
+  const auto fraction_digits = p - fraction;
+  const auto digits = fraction_digits + (fraction - 1 - start);
+  if (digits == 0 || digits > kMaxMantissaDigits) return nullptr;
+  while (*p == ' ' || (*p >= '\t' && *p <= '\r')) ++p;
+  if (*p != '\0') return nullptr;
+  DecimalDigits d;
+  d.mantissa = mantissa;
+  d.exponent = -fraction_digits;
+  if (!convert_exactly(d, value)) return nullptr;
+  return p;
 }
 
 }  // namespace kiln::numeric

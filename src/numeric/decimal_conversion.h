@@ -19,4 +19,12 @@ struct DecimalConversion {
 // gives infinity or 0 with the sign, as strtod does.
 DecimalConversion convert_decimal_text(const char* text);
 
+// The common shape of a worksheet number, read in one pass: digits, the
+// separator, digits (at least one digit in all, nothing before them), then
+// ASCII white space only. When the text has that shape and its value is
+// exact by one multiplication or division, *value is set and the position of
+// the terminating NUL returned; null otherwise (the caller takes the general
+// way).
+const char* convert_plain_decimal(const char* p, char separator, double* value);
+
 }  // namespace kiln::numeric

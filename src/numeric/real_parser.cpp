@@ -77,11 +77,23 @@ Sign read_sign(char*& p) {
   return {true, true};
 }
 
-char* find_exponent_mark(char* p) {
+// The first exponent mark ("E" or "e") of the text and the first separator
+// before it, found in one pass.
+struct MantissaSplit {
+  char* exponent_mark = nullptr;
+  char* separator = nullptr;
+};
+
+MantissaSplit split_mantissa(char* p, char separator) {
+  MantissaSplit split;
   for (; *p != '\0'; ++p) {
-    if (*p == 'E' || *p == 'e') return p;
+    if (*p == 'E' || *p == 'e') {
+      split.exponent_mark = p;
+      break;
+    }
+    if (*p == separator && split.separator == nullptr) split.separator = p;
   }
-  return nullptr;
+  return split;
 }
 
 // The exponent text: shorter than 40 bytes, trimmed, empty or an integer by
@@ -109,18 +121,27 @@ struct ParseResult {
   std::int32_t integer_part = 0;
 };
 
-ParseResult parse_real(char* text, bool strict) {
-  ParseResult result;
-  char* p = const_cast<char*>(skip_blanks(text));
-  if (*p == '\0') return result;
-  const Sign sign = read_sign(p);
-  if (!sign.valid || *p == 'E' || *p == 'e') return result;
+// The common case read in one pass: digits, the separator and digits, then
+// only ASCII blanks, with the fraction switch on. The general steps give the same
+// result for it (no exponent mark, the separator split, the fraction
+// conversion of the whole mantissa, nothing left to restore), so it is
+// taken first; any other text goes the general way.
+bool parse_plain_decimal(const char* mantissa, double* value) {
+  const char separator = g_decimal_separator;
+  if ((separator != '.' && separator != ',') || frame::str2real_use_atof() == 0) return false;
+  return convert_plain_decimal(mantissa, separator, value) != nullptr;
+}
 
+// The general steps from the mantissa on: exponent and separator split,
+// integer part, fraction and exponent. Kept out of line so that the common
+// case above stays small.
+[[gnu::noinline]] ParseResult parse_mantissa_and_exponent(char* const mantissa, Sign sign, bool strict) {
+  ParseResult result;
   TextCuts cuts;
-  char* const mantissa = p;
-  char* const exponent_mark = find_exponent_mark(mantissa);
+  const MantissaSplit split = split_mantissa(mantissa, g_decimal_separator);
+  char* const exponent_mark = split.exponent_mark;
+  char* const separator = split.separator;
   if (exponent_mark) cuts.replace(exponent_mark, '\0');
-  char* const separator = std::strchr(mantissa, g_decimal_separator);
   if (separator) cuts.replace(separator, '\0');
   const bool fraction_by_library = separator && !exponent_mark && frame::str2real_use_atof() != 0;
 
@@ -166,6 +187,20 @@ ParseResult parse_real(char* text, bool strict) {
   result.code = code;
   result.value = sign.negative ? -value : value;
   return result;
+}
+
+ParseResult parse_real(char* text, bool strict) {
+  char* p = const_cast<char*>(skip_blanks(text));
+  if (*p == '\0') return {};
+  const Sign sign = read_sign(p);
+  if (!sign.valid || *p == 'E' || *p == 'e') return {};
+  if (double value = 0.0; parse_plain_decimal(p, &value)) {
+    ParseResult result;
+    result.code = kWithSeparator;
+    result.value = sign.negative ? -value : value;
+    return result;
+  }
+  return parse_mantissa_and_exponent(p, sign, strict);
 }
 
 // The setter form: the first non-blank character becomes the separator.

@@ -6,18 +6,16 @@
 
 namespace kiln::numeric {
 
-bool is_blank_at(const char* p, int* length) {
+bool is_blank_character(const char* p, int* length) {
   const auto cp = unicode::utf8_decode(reinterpret_cast<const unsigned char*>(p), length);
   return KILNUTIL_isspace(static_cast<int>(cp)) != 0;
 }
 
-const char* skip_blanks(const char* p) {
+const char* skip_blanks_from(const char* p) {
   int length = 0;
   while (*p != '\0' && is_blank_at(p, &length)) p += length;
   return p;
 }
-
-bool only_blanks(const char* p) { return *skip_blanks(p) == '\0'; }
 
 TextRange trim(TextRange range) {
   int length = 0;

@@ -15,12 +15,27 @@ struct TextRange {
   bool empty() const { return begin == end; }
 };
 
-bool is_blank_at(const char* p, int* length);
+// Whether the character at p is blank; *length receives its byte count.
+bool is_blank_character(const char* p, int* length);
+
+inline bool is_blank_at(const char* p, int* length) {
+  // Printable ASCII is never white space: the common case costs one test.
+  const auto c = static_cast<unsigned char>(*p);
+  if (c > 0x20 && c < 0x7F) {
+    *length = 1;
+    return false;
+  }
+  return is_blank_character(p, length);
+}
 
 // The first non-blank character at or after p (its terminating NUL at worst).
-const char* skip_blanks(const char* p);
+const char* skip_blanks_from(const char* p);
+inline const char* skip_blanks(const char* p) {
+  const auto c = static_cast<unsigned char>(*p);
+  return c > 0x20 && c < 0x7F ? p : skip_blanks_from(p);
+}
 // True when only blanks remain from p to the terminating NUL.
-bool only_blanks(const char* p);
+inline bool only_blanks(const char* p) { return *p == '\0' || *skip_blanks(p) == '\0'; }
 // The range without its leading and trailing blanks.
 TextRange trim(TextRange range);
 // The first blank inside the range, or its end.

@@ -97,6 +97,34 @@ TEST(CorrectRounding, MatchesStrtodAndFromCharsBitForBit) {
   EXPECT_EQ(mismatches, 0u);
 }
 
+// Every split of up to 9 + 9 digits around the point, with and without
+// trailing blanks and at the 2^53 edge of the scaled mantissa.
+TEST(CorrectRounding, EveryShapeOfShortTexts) {
+  std::mt19937_64 random(5);
+  for (int integer_digits = 0; integer_digits <= 9; ++integer_digits) {
+    for (int fraction_digits = 0; fraction_digits <= 9; ++fraction_digits) {
+      if (integer_digits + fraction_digits == 0) continue;
+      for (int trial = 0; trial < 200; ++trial) {
+        std::string original = random_digits(random, integer_digits) + "." + random_digits(random, fraction_digits);
+        if (trial % 7 == 0) original = "-" + original;
+        if (trial % 11 == 0) original += " ";
+        std::string text = original;
+        double value = 0;
+        ASSERT_EQ(KILNUTIL_cvtstr2real(text.data(), &value), 2u) << original;
+        EXPECT_EQ(bits_of(value), bits_of(std::strtod(original.c_str(), nullptr))) << original;
+        EXPECT_EQ(text, original);
+      }
+    }
+  }
+  for (const char* original : {"89999999.99999999", "90000000.00000001", "99999999.99999999", "5.", ".5", "0.0",
+                               "00000000.00000000", "12345678.9", "1.23456789"}) {
+    std::string text = original;
+    double value = 0;
+    ASSERT_EQ(KILNUTIL_cvtstr2real(text.data(), &value), 2u) << original;
+    EXPECT_EQ(bits_of(value), bits_of(std::strtod(original, nullptr))) << original;
+  }
+}
+
 TEST(CorrectRounding, HardCases) {
   for (const char* original :
        {"9007199254740993.0", "9007199254740992.5", "0.1", "0.3", "1.7976931348623157", "123456789012345678.5",

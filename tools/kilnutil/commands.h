@@ -10,5 +10,7 @@ int run_version(Args args);
 int run_chars(Args args);
 int run_preview(Args args);
 int run_split(Args args);
+int run_number(Args args);
+int run_date(Args args);
 
 }  // namespace kilnutil_cli

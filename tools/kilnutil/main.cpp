@@ -17,6 +17,9 @@ constexpr Command kCommands[] = {
     {"preview", "FILE [--rows REQUEST] [--cols REQUEST] [--limit N] [--json]",
      "import a delimited text file as the host does and show the wanted cells", run_preview},
     {"split", "[--statements|--terms|--tokens] [TEXT|-]", "cut script text into statements, terms or tokens", run_split},
+    {"number", "[--lenient] TEXT...", "parse numbers: code, value to 17 digits or the missing value", run_number},
+    {"date", "[--system NAME] DATE|--to-date V|...",
+     "date values in any date system, --convert V FROM TO, --step N d|m|q|y DATE", run_date},
 };
 
 }  // namespace

@@ -1,0 +1,21 @@
+// Any bytes as date text: the ISO date reader and the text form of the
+// date-editing operation, with no read past the terminator.
+#include <kilnutil/datetime.h>
+#include <kilnutil/frame.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  std::unique_ptr<char[]> text(new char[size + 1]);
+  std::memcpy(text.get(), data, size);
+  text[size] = '\0';
+  const double date = KILNUTIL_str2date(text.get());
+  SYSTEMTIME fields{};
+  if (!is_missing_value(date) && !JulianDateToSystemTime(&date, &fields, nullptr, 3)) std::abort();
+  double value = 2451544.5;
+  KILNUTIL_dateinc(&value, reinterpret_cast<double*>(text.get()), 7, nullptr);
+  return 0;
+}

@@ -1,0 +1,208 @@
+// Fields to date value and back: every day of the valid range against an
+// independent civil-date count, reference dates of other calendars, the
+// field checks and the rounding of the time of day.
+#include "date_helpers.h"
+#include "datetime/calendar.h"
+
+#include <kilnutil/datetime.h>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace date_test;
+
+TEST(CalendarRoundTrip, EveryDayFrom0100To9999) {
+  const long long first = days_from_civil(100, 1, 1);
+  const long long last = days_from_civil(9999, 12, 31);
+  int y = 100, m = 1, d = 1;
+  long long failures = 0;
+  for (long long day = first; day <= last; ++day) {
+    // The expected fields, stepped independently of the day count.
+    const SYSTEMTIME in = system_time(y, m, d, 13, 5, 7, 250);
+    double value = 0;
+    ASSERT_EQ(SystemTimeToJulianDate(&value, &in, nullptr), 1) << y << "-" << m << "-" << d;
+    const double expected = static_cast<double>(day - days_from_civil(1899, 12, 30)) + 2415018.0 +
+                            ((13 * 60 + 5) * 60 + 7.25) / 86400.0;
+    if (value != expected && ++failures < 5) ADD_FAILURE() << y << "-" << m << "-" << d;
+    SYSTEMTIME out{};
+    ASSERT_EQ(JulianDateToSystemTime(&value, &out, nullptr, 0), 1);
+    if ((out.wYear != y || out.wMonth != m || out.wDay != d || out.wHour != 13 || out.wMinute != 5 ||
+         out.wSecond != 7 || out.wMilliseconds != 250) &&
+        ++failures < 5) {
+      ADD_FAILURE() << y << "-" << m << "-" << d << " came back as " << out.wYear << "-" << out.wMonth << "-"
+                    << out.wDay << " " << out.wMilliseconds;
+    }
+    const int weekday = static_cast<int>(((day % 7) + 7 + 4) % 7);  // 1970-01-01 was a Thursday
+    if (out.wDayOfWeek != weekday + 1 && ++failures < 5) ADD_FAILURE() << "weekday of " << y << "-" << m << "-" << d;
+
+    const int length = m == 2 ? (KILNUTIL_IsLeapYear(static_cast<unsigned short>(y)) ? 29 : 28)
+                              : 31 - ((m == 4 || m == 6 || m == 9 || m == 11) ? 1 : 0);
+    if (++d > length) {
+      d = 1;
+      if (++m > 12) {
+        m = 1;
+        ++y;
+      }
+    }
+  }
+  EXPECT_EQ(failures, 0);
+}
+
+TEST(CalendarRange, BoundsOfTheSerialDays) {
+  SYSTEMTIME out{};
+  double value = 2415018.0 - 657435;  // 0099-12-31, admitted on the way out only
+  ASSERT_EQ(JulianDateToSystemTime(&value, &out, nullptr, 3), 1);
+  EXPECT_EQ(out.wYear, 99);
+  EXPECT_EQ(out.wMonth, 12);
+  EXPECT_EQ(out.wDay, 31);
+  value -= 1e-9;
+  EXPECT_EQ(JulianDateToSystemTime(&value, &out, nullptr, 3), 0);
+  value = 2415018.0 + 2958465.999;
+  ASSERT_EQ(JulianDateToSystemTime(&value, &out, nullptr, 3), 1);
+  EXPECT_EQ(out.wYear, 9999);
+  value = 2415018.0 + 2958466;
+  out.wYear = 1;
+  EXPECT_EQ(JulianDateToSystemTime(&value, &out, nullptr, 3), 0);
+  EXPECT_EQ(out.wYear, 1);  // untouched
+}
+
+TEST(ReferenceDates, DefaultSystem) {
+  EXPECT_EQ(date_value(1899, 12, 30), 2415018.0);
+  EXPECT_EQ(date_value(2000, 1, 1, 12), 2451544.5);
+  EXPECT_EQ(date_value(2000, 1, 1), 2451544.0);
+}
+
+TEST(ReferenceDates, SpreadsheetSerials) {
+  DateSystemScope serial(101);
+  EXPECT_EQ(date_value(1899, 12, 30), 0.0);
+  EXPECT_EQ(date_value(1900, 3, 1), 61.0);
+  EXPECT_EQ(date_value(2000, 1, 1), 36526.0);
+  EXPECT_EQ(date_value(2024, 2, 29, 18), 45351.75);
+  DateTime_DateSys(1, 1904);
+  EXPECT_EQ(date_value(1904, 1, 1), 0.0);
+  EXPECT_EQ(date_value(2000, 1, 1), 35064.0);
+}
+
+TEST(ReferenceDates, AstronomicalJulianDates) {
+  DateSystemScope julian(1);
+  EXPECT_EQ(date_value(1899, 12, 30), 2415018.5);
+  EXPECT_EQ(date_value(2000, 1, 1, 12), 2451545.0);  // J2000.0
+  EXPECT_EQ(date_value(1858, 11, 17), 2400000.5);    // modified Julian day 0
+  EXPECT_EQ(date_value(1970, 1, 1), 2440587.5);
+}
+
+TEST(FieldChecks, TwoDigitYearsAndInvalidFields) {
+  EXPECT_EQ(date_value(44, 1, 1), date_value(2044, 1, 1));
+  EXPECT_EQ(date_value(45, 1, 1), date_value(1945, 1, 1));
+  EXPECT_EQ(date_value(99, 1, 1), date_value(1999, 1, 1));
+  EXPECT_NE(date_value(2000, 2, 29), -1.0);
+  EXPECT_EQ(date_value(2000, 1, 1, 23, 59, 59), 2451544.0 + 86399.0 / 86400.0);
+
+  using namespace kiln::datetime;
+  double value = 0;
+  CalendarFields f;
+  f.year = 1900, f.month = 2, f.day = 29;
+  EXPECT_EQ(fields_to_value(f, kActiveSystem, &value), kDayBeyondMonth);
+  f.day = 0;
+  EXPECT_EQ(fields_to_value(f, kActiveSystem, &value), kFieldsInvalid);
+  f.day = 1, f.hour = 24;
+  EXPECT_EQ(fields_to_value(f, kActiveSystem, &value), kFieldsInvalid);
+  f.hour = 0, f.year = 10000;
+  EXPECT_EQ(fields_to_value(f, kActiveSystem, &value), kFieldsInvalid);
+  f.year = 2000, f.month = 13;
+  EXPECT_EQ(fields_to_value(f, kActiveSystem, &value), kFieldsInvalid);
+  f.month = 1, f.second = 60;
+  EXPECT_EQ(fields_to_value(f, kActiveSystem, &value), kFieldsInvalid);
+
+  const SYSTEMTIME leap = system_time(1900, 2, 29);
+  EXPECT_EQ(SystemTimeToJulianDate(&value, &leap, nullptr), 0);
+  EXPECT_EQ(value, 2451323.4653704);
+}
+
+TEST(SystemTimeConversion, MillisecondsWithFractions) {
+  const SYSTEMTIME t = system_time(2000, 1, 1, 0, 0, 1, 999);
+  const double fraction = 0.25;
+  double value = 0;
+  ASSERT_EQ(SystemTimeToJulianDate(&value, &t, &fraction), 1);
+  EXPECT_DOUBLE_EQ(value, 2451544.0 + 1.00025 / 86400.0);
+
+  // Fractions of a millisecond need the small values of the serial system.
+  DateSystemScope serial(101);
+  SYSTEMTIME out{};
+  double milliseconds = 0;
+  value = 36526.0 + 1.23456 / 86400.0;
+  ASSERT_EQ(JulianDateToSystemTime(&value, &out, &milliseconds, 5), 1);
+  EXPECT_EQ(out.wSecond, 1);
+  EXPECT_EQ(out.wMilliseconds, 234);
+  EXPECT_NEAR(milliseconds, 234.56, 1e-9);
+  ASSERT_EQ(JulianDateToSystemTime(&value, &out, &milliseconds, 1), 1);
+  EXPECT_EQ(milliseconds, 200.0);
+}
+
+TEST(SystemTimeConversion, RoundingCarriesIntoTheNextDay) {
+  double value = 2451544.0 + (86399.6) / 86400.0;  // 2000-01-01 23:59:59.6
+  SYSTEMTIME out{};
+  double milliseconds = 0;
+  ASSERT_EQ(JulianDateToSystemTime(&value, &out, &milliseconds, 0), 1);
+  EXPECT_EQ(out.wDay, 2);
+  EXPECT_EQ(out.wHour, 0);
+  EXPECT_EQ(out.wSecond, 0);
+  ASSERT_EQ(JulianDateToSystemTime(&value, &out, nullptr, 0), 1);  // whole milliseconds then
+  EXPECT_EQ(out.wDay, 1);
+  EXPECT_EQ(out.wMilliseconds, 600);
+}
+
+TEST(CalendarRules, LeapYearsAndMonthLengths) {
+  EXPECT_EQ(KILNUTIL_IsLeapYear(1900), 0);
+  EXPECT_EQ(KILNUTIL_IsLeapYear(2000), 1);
+  EXPECT_EQ(KILNUTIL_IsLeapYear(2024), 1);
+  EXPECT_EQ(KILNUTIL_IsLeapYear(2023), 0);
+  EXPECT_EQ(KILNUTIL_GetNumDaysInMonth(1, 0), 28);
+  EXPECT_EQ(KILNUTIL_GetNumDaysInMonth(1, -1), 29);
+  EXPECT_EQ(KILNUTIL_GetNumDaysInMonth(1, 2000), 29);
+  EXPECT_EQ(KILNUTIL_GetNumDaysInMonth(1, 1900), 28);
+  EXPECT_EQ(KILNUTIL_GetNumDaysInMonth(12, 2000), 0);
+  EXPECT_EQ(KILNUTIL_GetNumDaysInMonth(3, 2000), 30);
+  EXPECT_EQ(KILNUTIL_GetNumDaysInMonth(11, -5), 31);
+}
+
+TEST(CalendarRules, DayOfYearHelpers) {
+  EXPECT_EQ(KILNUTIL_GetDayOfYearFromMonthAndDayOfMonth(2023, 0, 15), 15);
+  EXPECT_EQ(KILNUTIL_GetDayOfYearFromMonthAndDayOfMonth(2023, 1, 5), 33);  // 28 x 1 + 5
+  EXPECT_EQ(KILNUTIL_GetDayOfYearFromMonthAndDayOfMonth(2024, 1, 5), 34);
+  EXPECT_EQ(KILNUTIL_GetDayOfYearFromMonthAndDayOfMonth(2023, 3, 1), 91);  // 30 x 3 + 1
+
+  int month = -1, day = -1;
+  KILNUTIL_get_month_and_day_from_days_of_year(2023, 0, &month, &day);
+  EXPECT_EQ(month, 0);
+  EXPECT_EQ(day, 1);
+  KILNUTIL_get_month_and_day_from_days_of_year(2023, 31, &month, &day);
+  EXPECT_EQ(month, 0);
+  EXPECT_EQ(day, 31);
+  KILNUTIL_get_month_and_day_from_days_of_year(2024, 60, &month, &day);
+  EXPECT_EQ(month, 1);
+  EXPECT_EQ(day, 29);
+  KILNUTIL_get_month_and_day_from_days_of_year(2023, 60, &month, &day);
+  EXPECT_EQ(month, 2);
+  EXPECT_EQ(day, 1);
+  KILNUTIL_get_month_and_day_from_days_of_year(2024, 61, &month, &day);
+  EXPECT_EQ(month, 2);
+  EXPECT_EQ(day, 1);
+  KILNUTIL_get_month_and_day_from_days_of_year(2024, 366, &month, &day);
+  EXPECT_EQ(month, 11);
+  EXPECT_EQ(day, 31);
+  KILNUTIL_get_month_and_day_from_days_of_year(2023, 400, &month, &day);
+  EXPECT_EQ(month, 11);
+  EXPECT_EQ(day, 31);
+}
+
+TEST(JulianDays, RangeTest) {
+  EXPECT_EQ(is_JulianDays(2415019.0), 0);
+  EXPECT_EQ(is_JulianDays(2415019.5), 1);
+  EXPECT_EQ(is_JulianDays(2473458.9), 1);
+  EXPECT_EQ(is_JulianDays(2473459.0), 0);
+  EXPECT_EQ(is_JulianDays(2024), 0);
+}
+
+}  // namespace
