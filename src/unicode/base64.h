@@ -12,6 +12,10 @@ inline constexpr int kBase64ParallelThreshold = 0x80000;
 // Encodes `groups` full groups of 3 bytes into 4 characters each.
 void encode_base64_groups(const unsigned char* src, size_t groups, char* dst);
 
+// Encodes as many leading full groups as the processor's vector unit takes
+// (none without one) and returns how many.
+size_t encode_base64_groups_fast(const unsigned char* src, size_t groups, char* dst);
+
 // The full encoder: 4 characters per started group of 3 bytes (the result);
 // writes them when dst is given (see the header for the empty input).
 int encode_base64(const unsigned char* src, int length, char* dst);

@@ -19,12 +19,14 @@ uint32_t decode_group(const unsigned char* s) {
   return kDecode0[s[0]] | kDecode1[s[1]] | kDecode2[s[2]] | kDecode3[s[3]];
 }
 
+// Stores a group's 3 bytes at out[at] (only when writing: the counting pass
+// has no destination at all).
 template <bool kWrite>
-void put_group(unsigned char* out, uint32_t bits) {
+void put_group(unsigned char* out, size_t at, uint32_t bits) {
   if constexpr (kWrite) {
-    out[0] = static_cast<unsigned char>(bits >> 16);
-    out[1] = static_cast<unsigned char>(bits >> 8);
-    out[2] = static_cast<unsigned char>(bits);
+    out[at] = static_cast<unsigned char>(bits >> 16);
+    out[at + 1] = static_cast<unsigned char>(bits >> 8);
+    out[at + 2] = static_cast<unsigned char>(bits);
   }
 }
 
@@ -40,12 +42,12 @@ size_t decode(const unsigned char* s, size_t n, unsigned char* out) {
         const uint32_t first = decode_group(s + i);
         const uint32_t second = decode_group(s + i + 4);
         if ((first | second) & kInvalid) break;
-        put_group<kWrite>(out + written, first);
-        put_group<kWrite>(out + written + 3, second);
+        put_group<kWrite>(out, written, first);
+        put_group<kWrite>(out, written + 3, second);
       }
       if (i + 4 <= n) {
         if (const uint32_t group = decode_group(s + i); (group & kInvalid) == 0) {
-          put_group<kWrite>(out + written, group);
+          put_group<kWrite>(out, written, group);
           i += 4;
           written += 3;
           continue;
@@ -57,7 +59,7 @@ size_t decode(const unsigned char* s, size_t n, unsigned char* out) {
     if (value & kInvalid) continue;
     pending_bits = (pending_bits << 6) | value;
     if (++pending == 4) {
-      put_group<kWrite>(out + written, pending_bits);
+      put_group<kWrite>(out, written, pending_bits);
       written += 3;
       pending = 0;
       pending_bits = 0;

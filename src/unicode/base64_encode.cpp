@@ -54,7 +54,7 @@ void encode_last_group(const unsigned char* src, int remaining, char* dst) {
 }  // namespace
 
 void encode_base64_groups(const unsigned char* src, size_t groups, char* dst) {
-  size_t g = 0;
+  size_t g = encode_base64_groups_fast(src, groups, dst);
   // Each 8-byte load covers two groups and two bytes of the next one, which
   // must exist: stop while a whole group follows the pair.
   for (; g + 3 <= groups; g += 2) {

@@ -1,11 +1,12 @@
 // Conversions between code-page text, UTF-8 and UTF-16 in caller buffers.
 // Their results differ on purpose (count minus one, 1 for an empty source,
 // -1 for "does not fit"): callers depend on each one as it stands.
+#include "unicode/code_page_direct.h"
 #include "unicode/code_page_text.h"
 
 #include <kilnutil/unicode.h>
 
-#include <utility>
+#include <cstring>
 
 using namespace kiln::unicode;
 using kiln::platform::kCodePageUtf8;
@@ -15,9 +16,21 @@ namespace {
 // A source counts as empty when it is null, has length 0 or starts with a NUL.
 bool is_empty_source(const char* src, int length) { return src == nullptr || length == 0 || *src == '\0'; }
 
+// The direct path of long text in the Windows single- and double-byte pages.
+int mbcs_to_utf8_direct(unsigned page, const char* src, int src_len, char* dst, int dst_size) {
+  Scratch<char> utf8;
+  const int count = code_page_to_utf8_direct(page, src, src_len, utf8);
+  if (count < 0) return -1;
+  if (count == 0 || (dst_size > 0 && count > dst_size) || dst == nullptr) return 0;
+  std::memcpy(dst, utf8.data(), static_cast<size_t>(count));
+  return count - 1;
+}
+
 int mbcs_to_utf8(const char* src, int src_len, char* dst, int dst_size, int code_page) {
+  const unsigned page = resolve_code_page(code_page);
+  if (const int direct = mbcs_to_utf8_direct(page, src, src_len, dst, dst_size); direct >= 0) return direct;
   WideScratch units;
-  const int unit_count = to_wide(resolve_code_page(code_page), src, src_len, units);
+  const int unit_count = to_wide(page, src, src_len, units);
   if (unit_count == 0) return 0;
   const int count = multibyte_size(kCodePageUtf8, units.data(), unit_count);
   if (count <= 0 || (dst_size > 0 && count > dst_size)) return 0;

@@ -1,5 +1,6 @@
 // Code-page text to UTF-8 in a buffer the caller grows on request, with an
 // optional byte limit that never splits a character.
+#include "unicode/code_page_direct.h"
 #include "unicode/code_page_text.h"
 #include "unicode/utf8.h"
 
@@ -33,19 +34,17 @@ unsigned kept_within_limit(const char* text, unsigned size, unsigned limit) {
   return static_cast<unsigned>(position - text);
 }
 
-int convert_within_limit(MbcsToUTF8CallbackBuffer* record, WideScratch& units, int unit_count,
-                         unsigned needed) {
-  Scratch<char> utf8;
-  if (!utf8.reserve(needed) ||
-      kiln::platform::wide_to_multibyte(kCodePageUtf8, units.data(), unit_count, utf8.data(), static_cast<int>(needed)) !=
-          static_cast<int>(needed)) {
-    return -1;
-  }
-  const unsigned kept = kept_within_limit(utf8.data(), needed - 1, record->byte_limit);
-  if (!ensure_capacity(record, kept + 1)) return -1;
-  std::memcpy(record->buffer, utf8.data(), kept);
-  record->buffer[kept] = '\0';
-  return static_cast<int>(kept);
+// The UTF-8 form of the record's text with its NUL: the byte count, or -1.
+int convert_to_scratch(const char* text, unsigned page, Scratch<char>& utf8) {
+  if (const int direct = code_page_to_utf8_direct(page, text, -1, utf8); direct >= 0) return direct > 0 ? direct : -1;
+  WideScratch units;
+  const int unit_count = to_wide(page, text, -1, units);
+  if (unit_count == 0) return -1;
+  const int needed = multibyte_size(kCodePageUtf8, units.data(), unit_count);
+  if (needed <= 0 || !utf8.reserve(static_cast<size_t>(needed))) return -1;
+  return kiln::platform::wide_to_multibyte(kCodePageUtf8, units.data(), unit_count, utf8.data(), needed) == needed
+             ? needed
+             : -1;
 }
 
 }  // namespace
@@ -53,17 +52,15 @@ int convert_within_limit(MbcsToUTF8CallbackBuffer* record, WideScratch& units, i
 int KILNUTIL_UNICODE_mbcs_to_UTF8_callback(MbcsToUTF8CallbackBuffer* record, int code_page) {
   if (record == nullptr) return -1;
   if (record->buffer == nullptr || record->buffer[0] == '\0') return 0;
-  WideScratch units;
-  const int unit_count = to_wide(resolve_code_page(code_page), record->buffer, -1, units);
-  if (unit_count == 0) return -1;
-  const int needed = multibyte_size(kCodePageUtf8, units.data(), unit_count);
+  Scratch<char> utf8;
+  const int needed = convert_to_scratch(record->buffer, resolve_code_page(code_page), utf8);
   if (needed <= 0) return -1;
-  const auto needed_bytes = static_cast<unsigned>(needed);
-  if (record->byte_limit != 0 && record->byte_limit < needed_bytes) {
-    return convert_within_limit(record, units, unit_count, needed_bytes);
+  auto length = static_cast<unsigned>(needed - 1);
+  if (record->byte_limit != 0 && record->byte_limit < static_cast<unsigned>(needed)) {
+    length = kept_within_limit(utf8.data(), length, record->byte_limit);
   }
-  if (!ensure_capacity(record, needed_bytes)) return -1;
-  const int written =
-      kiln::platform::wide_to_multibyte(kCodePageUtf8, units.data(), unit_count, record->buffer, needed);
-  return written == needed ? needed - 1 : -1;
+  if (!ensure_capacity(record, length + 1)) return -1;
+  std::memcpy(record->buffer, utf8.data(), length);
+  record->buffer[length] = '\0';
+  return static_cast<int>(length);
 }

@@ -1,4 +1,5 @@
 // Conversions of text held in global memory handles.
+#include "unicode/code_page_direct.h"
 #include "unicode/global_text.h"
 
 #include "frame/settings.h"
@@ -79,6 +80,28 @@ int utf16_block_to_utf8(HGLOBAL* handle) {
   return replace_block_text(handle, kCodePageUtf8, units, unit_count, nullptr);
 }
 
+// The direct path of long code-page text: the conversion's result, or
+// kNoDirectPath (the block still locked) when there is none.
+constexpr int kNoDirectPath = -2;
+
+int replace_with_direct_utf8(HGLOBAL* handle, unsigned code_page, LockedBlock& block) {
+  const auto* text = static_cast<const char*>(block.data());
+  const size_t length = strnlen(text, block.size());
+  if (length == block.size()) return kNoDirectPath;  // no NUL in the block: the general path adds one
+  Scratch<char> utf8;
+  const int count = code_page_to_utf8_direct(code_page, text, -1, utf8);
+  if (count < 0) return kNoDirectPath;
+  block.unlock();
+  if (count == 0) return -1;
+  HGLOBAL resized = GlobalReAlloc(*handle, static_cast<size_t>(count), GMEM_MOVEABLE | GMEM_ZEROINIT);
+  if (resized == nullptr) return -1;
+  *handle = resized;
+  LockedBlock target(resized);
+  if (target.data() == nullptr) return -1;
+  std::memcpy(target.data(), utf8.data(), static_cast<size_t>(count));
+  return count;
+}
+
 }  // namespace kiln::unicode
 
 using namespace kiln::unicode;
@@ -91,6 +114,9 @@ int KILNUTIL_UNICODE_mbcs_to_UTF8_or_back_handle(HGLOBAL* handle, int direction,
   const unsigned page = resolve_code_page(code_page);
   const unsigned from = direction == 0 ? page : kiln::platform::kCodePageUtf8;
   const unsigned to = direction == 0 ? kiln::platform::kCodePageUtf8 : page;
+  if (direction == 0) {
+    if (const int direct = replace_with_direct_utf8(handle, page, block); direct != kNoDirectPath) return direct;
+  }
   WideScratch units;
   const int unit_count = block_text_to_wide(from, block, units);
   block.unlock();

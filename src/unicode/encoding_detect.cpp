@@ -97,12 +97,15 @@ Utf8Verdict utf8_verdict(const unsigned char* bytes, size_t count) {
   bool continuation_seen = false;
   size_t i = 0;
   while (i < count) {
-    i += ascii_run(bytes + i, count - i);
-    if (i == count) break;
-    const unsigned char lead = bytes[i++];
-    if (lead == 0) return Utf8Verdict::kInvalid;
-    const int expected = continuation_count(lead);
+    const unsigned char lead = bytes[i];
+    if (lead >= 0x01 && lead < 0x80) {
+      // Runs of ASCII go 32 bytes at a time.
+      i += ascii_run(bytes + i, count - i);
+      continue;
+    }
+    const int expected = lead == 0 ? -1 : continuation_count(lead);
     if (expected < 0) return Utf8Verdict::kInvalid;
+    ++i;
     for (int k = 0; k < expected && i < count; ++k, ++i) {
       if ((bytes[i] & 0xC0) != 0x80) return Utf8Verdict::kInvalid;
       continuation_seen = true;

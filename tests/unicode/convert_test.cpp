@@ -265,7 +265,10 @@ TEST(HandleConversion, Utf8ToUtf16Handle) {
     EXPECT_EQ(std::u16string(units), u"a\u00E9\U0001F600");
     GlobalUnlock(wide);
     GlobalFree(wide);
-    EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_UTF16_handle(source, movable, 1) != nullptr, true);
+    // Freeing the source on the way.
+    HGLOBAL second = KILNUTIL_UNICODE_UTF8_to_UTF16_handle(source, movable, 1);
+    EXPECT_NE(second, nullptr);
+    GlobalFree(second);
   }
   EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_UTF16_handle(nullptr, 1, 1), nullptr);
 }

@@ -12,5 +12,8 @@ int run_preview(Args args);
 int run_split(Args args);
 int run_number(Args args);
 int run_date(Args args);
+int run_detect(Args args);
+int run_to_utf8(Args args);
+int run_base64(Args args);
 
 }  // namespace kilnutil_cli

@@ -20,6 +20,9 @@ constexpr Command kCommands[] = {
     {"number", "[--lenient] TEXT...", "parse numbers: code, value to 17 digits or the missing value", run_number},
     {"date", "[--system NAME] DATE|--to-date V|...",
      "date values in any date system, --convert V FROM TO, --step N d|m|q|y DATE", run_date},
+    {"detect", "FILE...", "encoding of each file: code, name and mark size", run_detect},
+    {"to-utf8", "FILE [-o OUT] [-c CODEPAGE]", "a text file's contents as UTF-8", run_to_utf8},
+    {"base64", "[-d] [FILE|-]", "Base64 of a file, or with -d the bytes of Base64 text", run_base64},
 };
 
 }  // namespace
