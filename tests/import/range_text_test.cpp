@@ -54,12 +54,6 @@ TEST(RangeText, ReferenceShapes) {
   EXPECT_EQ(sheet_only.sheet, "Data");
 }
 
-TEST(RangeText, FailureMayLeaveCutSeparator) {
-  const Parsed p = parse("$1$2:$B$2");
-  EXPECT_EQ(p.result, 0);
-  EXPECT_EQ(p.text.find(':'), std::string::npos);
-}
-
 TEST(RangeText, NullOutputsAndSecondName) {
   char text[] = "[B]S!$A$1:$B$2";
   EXPECT_EQ(KILNUTIL_parse_one_range_string(text, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr), 1);
