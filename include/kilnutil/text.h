@@ -166,8 +166,10 @@ KILNUTIL_API KILN_WCHAR* KILNUTIL_TrimBothW(KILN_WCHAR* text);
  * brackets unless 0x8000000; the quote bits 0x10000000 and 0x20000000 apply. */
 KILNUTIL_API char* KILNUTIL_ExposedCharPosA(const char* text, int target, unsigned int flags, int* status);
 KILNUTIL_API KILN_WCHAR* KILNUTIL_ExposedCharPosW(const KILN_WCHAR* text, int target, unsigned int flags, int* status);
-/* mode 0: the first c outside "(" ")", "{" "}", "[" "]" and double quotes;
- * mode 1: the first c anywhere (with 2: the last); 0x20: either case. */
+/* KILNUTIL_strchr's modes: 0 the first c outside "(" ")", "{" "}", "[" "]"
+ * and double quotes; 1 the first c anywhere (with 2: the last; 4: after the
+ * leading run of c; 0x10: within the text trimmed at both ends); 0x20: either
+ * case. */
 KILNUTIL_API char* KILNUTIL_StrCharA(const char* text, int c, int mode);
 KILNUTIL_API KILN_WCHAR* KILNUTIL_StrCharW(const KILN_WCHAR* text, int c, int mode);
 /* Copies up to NUL, separators[0] or separators[1] (at most size - 1 units);

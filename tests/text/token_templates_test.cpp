@@ -275,3 +275,20 @@ TEST(TokenTemplates, HelperMembers) {
 }
 
 }  // namespace
+
+namespace {
+
+// The narrow character search answers as the script scanners' search does.
+TEST(TokenTemplates, StrCharMatchesScannerSearch) {
+  const char* corpus[] = {"(a,b),c", "\"x,y\",z", ",,a,b, ", "  ;a;b;  ", "[{a,b}],\xC3\xA9,c", "Abc,aBC", ""};
+  for (const char* text : corpus) {
+    for (const int c : {',', ';', 'a', 'B', ' '}) {
+      for (const int mode : {0, 1, 2, 3, 4, 5, 0x10, 0x11, 0x13, 0x14, 0x20, 0x21, 0x23}) {
+        EXPECT_EQ(KILNUTIL_StrCharA(text, c, mode), KILNUTIL_strchr(text, c, static_cast<unsigned>(mode)))
+            << text << " " << c << " " << mode;
+      }
+    }
+  }
+}
+
+}  // namespace
