@@ -149,17 +149,23 @@ Ch* line_end(Ch* text) {
 }
 
 // Tokens in the first line (ending at its line feed, or at a carriage return
-// just before it).
+// just before it); *feed receives that line feed, or null at the text's end.
 template <class Ch>
-int first_line_tokens(Ch* text, int sep) {
-  if (text == nullptr) return 0;
-  Ch* cut = line_end(text);
+int first_line_tokens(Ch* text, int sep, Ch** feed) {
+  Ch* line_feed = line_end(text);
+  if (feed != nullptr) *feed = line_feed;
+  Ch* cut = line_feed;
   if (cut != nullptr && cut > text && cut[-1] == kCarriageReturn) --cut;
   const Ch saved = cut != nullptr ? *cut : Ch{0};
   if (cut != nullptr) *cut = 0;
   const int n = separate_str_to_token_list(text, static_cast<Ch**>(nullptr), sep, kNoLimit);
   if (cut != nullptr) *cut = saved;
   return n;
+}
+
+template <class Ch>
+int first_line_tokens(Ch* text, int sep) {
+  return text != nullptr ? first_line_tokens(text, sep, static_cast<Ch**>(nullptr)) : 0;
 }
 
 // Line feeds plus one; a line feed ending the text opens no further line.
@@ -214,7 +220,8 @@ int count_consistent_tokens(Ch* text, int sep, int enough, int lines) {
   int reference = 0;
   Ch* line = text;
   for (int i = 0; i < lines; ++i) {
-    const int n = first_line_tokens(line, sep);
+    Ch* feed = nullptr;
+    const int n = first_line_tokens(line, sep, &feed);
     if (!tab && n < 2) return -2;
     if (enough > 0 && n >= enough) return n;
     if (i == 0 || (tab && n > reference)) {
@@ -222,7 +229,6 @@ int count_consistent_tokens(Ch* text, int sep, int enough, int lines) {
     } else if (!tab && n != reference) {
       return -3;
     }
-    Ch* feed = line_end(line);
     if (feed == nullptr) return tab ? reference : -1;
     line = feed + 1;
   }
