@@ -170,6 +170,20 @@ struct KILNUTIL_API KILNUTILT {
   static char* GoBack(char* p);
   static const KILN_WCHAR* GoBack(const KILN_WCHAR* p);
   static KILN_WCHAR* GoBack(KILN_WCHAR* p);
+  /* The start of the last character; null for null or empty text. */
+  static const char* GetLastChar(const char* p);
+  static char* GetLastChar(char* p);
+  static const KILN_WCHAR* GetLastChar(const KILN_WCHAR* p);
+  static KILN_WCHAR* GetLastChar(KILN_WCHAR* p);
+  /* Upper-cases the text in place (its length never changes); returns it. */
+  static char* CharUpper_(char* p);
+  static KILN_WCHAR* CharUpper_(KILN_WCHAR* p);
+  /* Copies at most n - 1 units of src and terminates dest (nothing for n < 1). */
+  static char* StrCpyN(char* dest, const char* src, int n);
+  static KILN_WCHAR* StrCpyN(KILN_WCHAR* dest, const KILN_WCHAR* src, int n);
+  /* Length in units (bytes for narrow text); 0 for null. */
+  static int StrLen(const char* p);
+  static int StrLen(const KILN_WCHAR* p);
 };
 #endif
 

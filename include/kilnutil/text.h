@@ -150,4 +150,81 @@ KILNUTIL_API int KILNUTIL_token_count_no_chk_inside(const char* text, int sep);
 
 KILNUTIL_END_C
 
+
+/* ---- Narrow (UTF-8, A) and wide (UTF-16, W) token functions of text import.
+ * Each forwards to the KILNUTILT_ template of the same job (below). */
+KILNUTIL_BEGIN_C
+/* The first character that is not white space. */
+KILNUTIL_API char* KILNUTIL_TrimLeftA(char* text);
+KILNUTIL_API KILN_WCHAR* KILNUTIL_TrimLeftW(KILN_WCHAR* text);
+/* Overwrites trailing white space with NULs; returns text. */
+KILNUTIL_API char* KILNUTIL_TrimRightA(char* text);
+KILNUTIL_API KILN_WCHAR* KILNUTIL_TrimRightW(KILN_WCHAR* text);
+KILNUTIL_API char* KILNUTIL_TrimBothA(char* text);
+KILNUTIL_API KILN_WCHAR* KILNUTIL_TrimBothW(KILN_WCHAR* text);
+/* The first exposed target (0: any white space). No loc: "<" ">" are
+ * brackets unless 0x8000000; the quote bits 0x10000000 and 0x20000000 apply. */
+KILNUTIL_API char* KILNUTIL_ExposedCharPosA(const char* text, int target, unsigned int flags, int* status);
+KILNUTIL_API KILN_WCHAR* KILNUTIL_ExposedCharPosW(const KILN_WCHAR* text, int target, unsigned int flags, int* status);
+/* KILNUTIL_strchr's modes: 0 the first c outside "(" ")", "{" "}", "[" "]"
+ * and double quotes; 1 the first c anywhere (with 2: the last; 4: after the
+ * leading run of c; 0x10: within the text trimmed at both ends); 0x20: either
+ * case. */
+KILNUTIL_API char* KILNUTIL_StrCharA(const char* text, int c, int mode);
+KILNUTIL_API KILN_WCHAR* KILNUTIL_StrCharW(const KILN_WCHAR* text, int c, int mode);
+/* Copies up to NUL, separators[0] or separators[1] (at most size - 1 units);
+ * returns the position behind the separator, or of the NUL. size must be 2 or
+ * more: below that the result is the position before text. */
+KILNUTIL_API char* KILNUTIL_NextTokenA(char* dest, const char* text, const char* separators, int size);
+KILNUTIL_API KILN_WCHAR* KILNUTIL_NextTokenW(KILN_WCHAR* dest, const KILN_WCHAR* text, const KILN_WCHAR* separators,
+                                             int size);
+/* Splits at exposed sep (0: ","; -1: white space), at most max separators
+ * when max is above 0 (with -1 and 60000 the single quote is ordinary); stores
+ * the trimmed tokens when list is given. Separators + 1, or the separators
+ * found when the limit was reached. The narrow form is
+ * KILNUTIL_separate_str_to_token_list. */
+KILNUTIL_API int KILNUTIL_SeparateStrToTokensA(char* text, char** list, int sep, int max);
+KILNUTIL_API int KILNUTIL_SeparateStrToTokensW(KILN_WCHAR* text, KILN_WCHAR** list, int sep, int max);
+/* Tokens in the first line (the text is restored). */
+KILNUTIL_API int KILNUTIL_FirstLineTokensA(char* text, int sep);
+KILNUTIL_API int KILNUTIL_FirstLineTokensW(KILN_WCHAR* text, int sep);
+/* Line feeds + 1; a line feed ending the text opens no line. */
+KILNUTIL_API int KILNUTIL_LineCountA(const char* text);
+KILNUTIL_API int KILNUTIL_LineCountW(const KILN_WCHAR* text);
+/* The largest number of tab-separated fields in the first lines lines. */
+KILNUTIL_API int KILNUTIL_TestWordsInLineA(const char* text, int lines);
+KILNUTIL_API int KILNUTIL_TestWordsInLineW(const KILN_WCHAR* text, int lines);
+/* The separator-exclusion character: a separator that KILNUTILT_FindSeparator
+ * never picks (the host sets its decimal separator, so that "," is not taken
+ * for the column separator of text with decimal commas). Initially 0 (none).
+ * The setter returns the previous character. */
+KILNUTIL_API int KILNUTIL_SetSeparatorExclusionChar(int c);
+KILNUTIL_API int KILNUTIL_GetSeparatorExclusionChar(void);
+KILNUTIL_END_C
+
+#ifdef __cplusplus
+/* The templates behind the A and W functions, exported for char (UTF-8) and
+ * KILN_WCHAR (UTF-16) text. */
+template <class Ch> KILNUTIL_API Ch* KILNUTILT_TrimLeft(Ch* text);
+template <class Ch> KILNUTIL_API Ch* KILNUTILT_TrimRight(Ch* text);
+template <class Ch> KILNUTIL_API Ch* KILNUTILT_TrimBoth(Ch* text);
+template <class Ch> KILNUTIL_API Ch* KILNUTILT_ExposedCharPos(const Ch* text, int target, unsigned int flags, int* status);
+template <class Ch> KILNUTIL_API Ch* KILNUTILT_StrChar(const Ch* text, int c, int mode);
+template <class Ch> KILNUTIL_API Ch* KILNUTILT_NextToken(Ch* dest, const Ch* text, const Ch* separators, int size);
+template <class Ch> KILNUTIL_API int KILNUTILT_SeparateStrToTokenList(Ch* text, Ch** list, int sep, int max);
+template <class Ch> KILNUTIL_API int KILNUTILT_FirstLineTokens(Ch* text, int sep);
+template <class Ch> KILNUTIL_API int KILNUTILT_LineCount(const Ch* text);
+/* Tab-separated fields in the first line (only tabs count). */
+template <class Ch> KILNUTIL_API int KILNUTILT_WordsInLine(const Ch* text);
+template <class Ch> KILNUTIL_API int KILNUTILT_num_words_in_lines(const Ch* text, int lines);
+/* The token count the first lines lines agree on (tab: the largest), or -1
+ * (lines below 1; not tab: the text ends before the lines do), -2 (not tab: a
+ * line with fewer than two tokens), -3 (not tab: lines disagree). A count that
+ * reaches enough (above 0) is returned at once. */
+template <class Ch> KILNUTIL_API int KILNUTILT_CountConsistenTokens(Ch* text, int sep, int enough, int lines);
+/* The column separator of delimited text: 9 (tab), 44 (",") or 59 (";"), or
+ * -1 (lines below 1 checks 3 lines). */
+template <class Ch> KILNUTIL_API int KILNUTILT_FindSeparator(Ch* text, int enough, int lines);
+#endif /* __cplusplus */
+
 #endif /* KILNUTIL_TEXT_H */

@@ -8,6 +8,7 @@ namespace kilnutil_cli {
 int run_help(Args args);
 int run_version(Args args);
 int run_chars(Args args);
+int run_preview(Args args);
 int run_split(Args args);
 int run_number(Args args);
 int run_date(Args args);

@@ -14,6 +14,8 @@ constexpr Command kCommands[] = {
     {"help", "", "list the commands", run_help},
     {"version", "", "print the library version", run_version},
     {"chars", "TEXT|-", "list each character of UTF-8 text: byte offset, code point, UTF-16 units", run_chars},
+    {"preview", "FILE [--rows REQUEST] [--cols REQUEST] [--limit N] [--json]",
+     "import a delimited text file as the host does and show the wanted cells", run_preview},
     {"split", "[--statements|--terms|--tokens] [TEXT|-]", "cut script text into statements, terms or tokens", run_split},
     {"number", "[--lenient] TEXT...", "parse numbers: code, value to 17 digits or the missing value", run_number},
     {"date", "[--system NAME] DATE|--to-date V|...",

@@ -1,0 +1,234 @@
+// Partial-import requests: random requests expanded by a model over the
+// indices 0..500 and compared with every query; then the stated cases.
+#include <kilnutil/import.h>
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr int kLimit = 500;
+
+// One item as written: 1-based numbers, last 0 for "to the end", and an
+// optional "|count-skip" clause.
+struct Item {
+  bool exclude;
+  int first;
+  bool has_last;
+  int last;
+  int count;  // 0: no clause
+  int skip;
+};
+
+std::string text_of(const Item& item) {
+  std::string s = item.exclude ? "~" : "";
+  s += std::to_string(item.first);
+  if (item.has_last) {
+    s += ":" + std::to_string(item.last);
+    if (item.count > 0) s += "|" + std::to_string(item.count) + "-" + std::to_string(item.skip);
+  }
+  return s;
+}
+
+// Whether the item's selection holds the 0-based index i.
+bool item_holds(const Item& item, int i) {
+  const int begin = item.first - 1;
+  if (i < begin) return false;
+  if (item.has_last && item.last != 0 && i > item.last - 1 && item.last - 1 >= begin) return false;
+  if (!item.has_last && i != begin) return false;
+  if (item.count == 0 || item.skip < 1) return true;
+  return (i - begin) % (item.count + item.skip) < item.count;
+}
+
+std::vector<bool> expand(const std::vector<Item>& items) {
+  std::vector<bool> wanted(kLimit + 1, items.empty());
+  for (int i = 0; i <= kLimit; ++i) {
+    for (auto it = items.rbegin(); it != items.rend(); ++it) {
+      if (item_holds(*it, i)) {
+        wanted[i] = !it->exclude;
+        break;
+      }
+    }
+  }
+  return wanted;
+}
+
+std::vector<bool> held_by_any(const std::vector<Item>& items) {
+  std::vector<bool> held(kLimit + 1, false);
+  for (int i = 0; i <= kLimit; ++i) {
+    for (const Item& item : items) held[i] = held[i] || item_holds(item, i);
+  }
+  return held;
+}
+
+Item random_item(std::mt19937& rng) {
+  auto pick = [&](int lo, int hi) { return std::uniform_int_distribution<int>(lo, hi)(rng); };
+  Item item{pick(0, 3) == 0, pick(1, 400), pick(0, 4) != 0, 0, 0, 0};
+  if (item.has_last) {
+    item.last = pick(0, 3) == 0 ? 0 : pick(item.first, 480);
+    if (pick(0, 1) == 0) {
+      item.count = pick(1, 5);
+      item.skip = pick(0, 7);
+    }
+  }
+  return item;
+}
+
+TEST(PartialRequest, RandomRequestsMatchTheirExpansion) {
+  std::mt19937 rng(20261122);
+  const char* separators[] = {" ", ",", "  ", ";"};
+  const char* suffixes[] = {"", "", "#", "/3", "*12"};
+  for (int round = 0; round < 400; ++round) {
+    std::vector<Item> items(std::uniform_int_distribution<int>(1, 5)(rng));
+    std::string request;
+    for (std::size_t k = 0; k < items.size(); ++k) {
+      items[k] = random_item(rng);
+      if (k) request += separators[rng() % 4];
+      request += text_of(items[k]);
+    }
+    const std::string suffix = suffixes[rng() % 5];
+    request += suffix;
+
+    ImportFilesPartialParts parts;
+    ASSERT_TRUE(parts.Parse(request.c_str())) << request;
+    ASSERT_EQ(parts.GetPartialParts(), static_cast<int>(items.size())) << request;
+    for (int k = 0; k < parts.GetPartialParts(); ++k) ASSERT_STREQ(parts.GetFlipShift(k), suffix.c_str());
+
+    const std::vector<bool> wanted = expand(items);
+    int wanted_count = 0;
+    for (int i = 0; i <= kLimit; ++i) {
+      ASSERT_EQ(parts.Check(i), wanted[i]) << request << " at " << i;
+      wanted_count += wanted[i];
+    }
+    ASSERT_EQ(parts.GetNumData(0, kLimit), wanted_count) << request;
+
+    // The next run of indices held by any part, whatever its include flag.
+    const std::vector<bool> held = held_by_any(items);
+    const int from = static_cast<int>(rng() % 300);
+    int begin = 0, end = 0;
+    const bool found = parts.GetNextBeginEnd(from, kLimit + 1, begin, end);
+    int expected_begin = from;
+    while (expected_begin <= kLimit && !held[expected_begin]) ++expected_begin;
+    ASSERT_EQ(found, expected_begin <= kLimit) << request << " from " << from;
+    if (found) {
+      int expected_end = expected_begin;
+      while (expected_end + 1 <= kLimit && held[expected_end + 1]) ++expected_end;
+      ASSERT_EQ(begin, expected_begin) << request;
+      ASSERT_EQ(end, expected_end) << request;
+    }
+  }
+}
+
+std::vector<int> wanted_of(const char* request, int limit = 20) {
+  ImportFilesPartialParts parts;
+  parts.Parse(request);
+  std::vector<int> out;
+  for (int i = 0; i < limit; ++i) {
+    if (parts.Check(i)) out.push_back(i);
+  }
+  return out;
+}
+
+TEST(PartialRequest, StatedCases) {
+  EXPECT_EQ(wanted_of("3"), std::vector<int>({2}));
+  EXPECT_EQ(wanted_of("3:0", 6), std::vector<int>({2, 3, 4, 5}));
+  EXPECT_EQ(wanted_of("1:100|2-3", 13), std::vector<int>({0, 1, 5, 6, 10, 11}));
+  EXPECT_EQ(wanted_of("1:10 ~5", 12), std::vector<int>({0, 1, 2, 3, 5, 6, 7, 8, 9}));
+  EXPECT_EQ(wanted_of("~5"), std::vector<int>());
+  EXPECT_EQ(wanted_of("~5 ~7", 3), std::vector<int>());
+}
+
+TEST(PartialRequest, TextWithoutItemsKeepsParts) {
+  ImportFilesPartialParts parts;
+  ASSERT_TRUE(parts.Parse("2:4"));
+  EXPECT_FALSE(parts.Parse("abc"));
+  EXPECT_FALSE(parts.Parse(""));
+  EXPECT_FALSE(parts.Parse(nullptr));
+  EXPECT_EQ(parts.GetPartialParts(), 1);
+  EXPECT_TRUE(parts.Check(3));
+  ASSERT_TRUE(parts.Parse("7"));
+  EXPECT_EQ(parts.GetPartialParts(), 1);
+  EXPECT_FALSE(parts.Check(3));
+}
+
+TEST(PartialRequest, Suffixes) {
+  ImportFilesPartialParts parts;
+  ASSERT_TRUE(parts.Parse("1:5 8#"));
+  EXPECT_STREQ(parts.GetFlipShift(0), "#");
+  EXPECT_STREQ(parts.GetFlipShift(1), "#");
+  EXPECT_EQ(parts.GetFlipShift(2), nullptr);
+  ASSERT_TRUE(parts.Parse("1:5/2"));
+  EXPECT_STREQ(parts.GetFlipShift(0), "/2");
+  EXPECT_EQ(parts.GetPart(0)->end, 4);  // the suffix is not read as an item
+  ASSERT_TRUE(parts.Parse("4*3"));
+  EXPECT_STREQ(parts.GetFlipShift(0), "*3");
+  EXPECT_EQ(parts.GetPartialParts(), 1);
+  // "/" wins over "*"; text after it that is no integer gives no suffix.
+  ASSERT_TRUE(parts.Parse("2*3/x"));
+  EXPECT_STREQ(parts.GetFlipShift(0), "");
+  EXPECT_EQ(parts.GetPartialParts(), 2);
+  // A suffix with nothing before it stays in the text as well.
+  ASSERT_TRUE(parts.Parse("/7"));
+  EXPECT_STREQ(parts.GetFlipShift(0), "/7");
+  EXPECT_EQ(parts.GetPart(0)->begin, 6);
+  // At most six characters are kept.
+  ASSERT_TRUE(parts.Parse("1/12345678"));
+  EXPECT_STREQ(parts.GetFlipShift(0), "/12345");
+}
+
+TEST(PartialRequest, SelectionClauses) {
+  ImportFilesPartialParts parts;
+  ASSERT_TRUE(parts.Parse("1:0|yave-1y"));
+  const ImportFilesPartialPart* part = parts.GetPart(0);
+  EXPECT_STREQ(part->name, "yave");
+  EXPECT_EQ(part->special_count, 1);
+  EXPECT_EQ(part->special_unit, 'y');
+  EXPECT_EQ(part->count, 1);
+  EXPECT_EQ(part->skip, 0);
+  EXPECT_EQ(parts.GetAveAcrossYears(), 'y');
+
+  ASSERT_TRUE(parts.Parse("2:30|3-7d|max-q"));
+  part = parts.GetPart(0);
+  EXPECT_EQ(part->count, 3);
+  EXPECT_EQ(part->skip, 7);
+  EXPECT_EQ(part->skip_unit, 'd');
+  EXPECT_STREQ(part->name, "max");
+  EXPECT_EQ(part->special_count, 1);
+  EXPECT_EQ(part->special_unit, 'q');
+  EXPECT_EQ(parts.GetAveAcrossYears(), 0);
+  EXPECT_TRUE(ImportFilesPartialParts::IsAveAcrossYears("yave"));
+  EXPECT_FALSE(ImportFilesPartialParts::IsAveAcrossYears("ave"));
+  EXPECT_FALSE(ImportFilesPartialParts::IsAveAcrossYears(nullptr));
+
+  // A clause needs ":" before it; on its own it is ignored text.
+  ASSERT_TRUE(parts.Parse("4|2-3"));
+  EXPECT_EQ(parts.GetPart(0)->count, 1);
+  EXPECT_EQ(parts.GetPart(0)->end, 3);
+}
+
+TEST(PartialRequest, SkipTextReading) {
+  ImportFilesPartialPart part{};
+  EXPECT_FALSE(skip_str_to_partial("", &part, ""));
+  EXPECT_FALSE(skip_str_to_partial(nullptr, &part, nullptr));
+  EXPECT_EQ(part.count, 0);
+  EXPECT_TRUE(skip_str_to_partial("m", &part, ""));
+  EXPECT_EQ(part.count, 1);
+  EXPECT_EQ(part.skip, 1);
+  EXPECT_EQ(part.skip_unit, 'm');
+  EXPECT_TRUE(skip_str_to_partial("12", &part, "4"));
+  EXPECT_EQ(part.count, 4);
+  EXPECT_EQ(part.skip, 12);
+  EXPECT_EQ(part.skip_unit, 0);
+  part.count = 0;
+  EXPECT_TRUE(skip_str_to_partial("", &part, "averages_across_all"));
+  EXPECT_STREQ(part.name, "averages_acr");  // twelve characters at most
+  EXPECT_EQ(part.count, 1);
+  EXPECT_EQ(part.special_count, 0);
+  EXPECT_FALSE(skip_str_to_partial("1", nullptr, "2"));
+}
+
+}  // namespace

@@ -1,0 +1,68 @@
+// Cells as numbers (the library's number parser) and ISO dates (the library's
+// date values).
+#include "preview_cell.h"
+
+#include <kilnutil/datetime.h>
+#include <kilnutil/frame.h>
+#include <kilnutil/numeric.h>
+
+#include <cctype>
+
+namespace kilnutil_cli {
+
+namespace {
+
+// Reads exactly `digits` digits at text[at...]; -1 when they are not there.
+int fixed_digits(const std::string& text, std::size_t at, int digits) {
+  int value = 0;
+  for (int i = 0; i < digits; ++i) {
+    if (at + i >= text.size() || !std::isdigit(static_cast<unsigned char>(text[at + i]))) return -1;
+    value = value * 10 + (text[at + i] - '0');
+  }
+  return value;
+}
+
+// "YYYY-MM-DD", optionally followed by " " or "T" and "HH:MM" or "HH:MM:SS".
+std::optional<SYSTEMTIME> iso_date(const std::string& text) {
+  SYSTEMTIME time{};
+  const int year = fixed_digits(text, 0, 4), month = fixed_digits(text, 5, 2), day = fixed_digits(text, 8, 2);
+  if (year < 0 || month < 1 || day < 1 || text[4] != '-' || text[7] != '-') return std::nullopt;
+  if (month > 12 || day > KILNUTIL_GetNumDaysInMonth(static_cast<unsigned short>(month), year)) return std::nullopt;
+  time.wYear = static_cast<unsigned short>(year);
+  time.wMonth = static_cast<unsigned short>(month);
+  time.wDay = static_cast<unsigned short>(day);
+  if (text.size() == 10) return time;
+  const int hour = fixed_digits(text, 11, 2), minute = fixed_digits(text, 14, 2);
+  if ((text[10] != ' ' && text[10] != 'T') || hour < 0 || hour > 23 || text[13] != ':' || minute < 0 || minute > 59) {
+    return std::nullopt;
+  }
+  int second = 0;
+  if (text.size() == 19 && text[16] == ':') {
+    second = fixed_digits(text, 17, 2);
+    if (second < 0 || second > 59) return std::nullopt;
+  } else if (text.size() != 16) {
+    return std::nullopt;
+  }
+  time.wHour = static_cast<unsigned short>(hour);
+  time.wMinute = static_cast<unsigned short>(minute);
+  time.wSecond = static_cast<unsigned short>(second);
+  return time;
+}
+
+}  // namespace
+
+CellValue read_cell(std::string field) {
+  CellValue cell;
+  if (field.size() >= 2 && field.front() == '"' && field.back() == '"') field = field.substr(1, field.size() - 2);
+  cell.text = field;
+  std::string scratch = cell.text;  // the parser cuts and restores separators in place
+  const double number = KILNUTIL_str2real(scratch.data());
+  if (!is_missing_value(number)) cell.number = number;
+  if (const std::optional<SYSTEMTIME> time = iso_date(cell.text)) {
+    double value = 0;
+    if (SystemTimeToJulianDate(&value, &*time, nullptr) == 1) cell.date = value;
+  }
+  return cell;
+}
+
+}  // namespace kilnutil_cli
