@@ -44,7 +44,7 @@ UConverter* open_converter(unsigned code_page) {
       return U_SUCCESS(status) ? converter : nullptr;
     }
   }
-  if (code_page == 0 || code_page == 1200 || code_page == 1201 || code_page > 0xFFFF) return nullptr;
+  if (code_page == 1200 || code_page == 1201 || code_page > 0xFFFF) return nullptr;
   for (const char* prefix : {"windows-", "ibm-"}) {
     char name[32];
     std::snprintf(name, sizeof name, "%s%u", prefix, code_page);
@@ -197,6 +197,17 @@ unsigned code_page_of_codeset(std::string_view codeset) {
   return 1252;
 }
 
+// The Windows aliases: CP_ACP (0) and CP_THREAD_ACP (3) name the ANSI code
+// page, CP_OEMCP (1) and CP_MACCP (2) the OEM and Macintosh pages that go
+// with it (for the Western page 437 and 10000; the East Asian pages serve as
+// their own).
+unsigned resolve_alias(unsigned code_page) {
+  if (code_page > 3) return code_page;
+  const unsigned ansi = ansi_code_page();
+  if (code_page == 0 || code_page == 3 || ansi != 1252) return ansi;
+  return code_page == 1 ? 437 : 10000;
+}
+
 }  // namespace
 
 unsigned ansi_code_page() {
@@ -204,9 +215,10 @@ unsigned ansi_code_page() {
   return code_page_of_codeset(codeset != nullptr ? codeset : "");
 }
 
-bool is_code_page_supported(unsigned code_page) { return converter_for(code_page) != nullptr; }
+bool is_code_page_supported(unsigned code_page) { return converter_for(resolve_alias(code_page)) != nullptr; }
 
 bool is_lead_byte(unsigned code_page, unsigned char byte) {
+  code_page = resolve_alias(code_page);
   // Lead-byte ranges of the double-byte Windows code pages (the same sets the
   // converters use); single-byte pages and UTF-8 have no lead bytes.
   switch (code_page) {
@@ -223,6 +235,7 @@ bool is_lead_byte(unsigned code_page, unsigned char byte) {
 
 int multibyte_to_wide(unsigned code_page, const char* text, int length, KILN_WCHAR* out, int capacity) {
   if (text == nullptr || capacity < 0 || (capacity > 0 && out == nullptr) || length == 0) return 0;
+  code_page = resolve_alias(code_page);
   UConverter* converter = converter_for(code_page);
   if (converter == nullptr) return 0;
   const int n = text_length(text, length);
@@ -243,6 +256,7 @@ int multibyte_to_wide(unsigned code_page, const char* text, int length, KILN_WCH
 int wide_to_multibyte(unsigned code_page, const KILN_WCHAR* text, int length, char* out, int capacity,
                       const char* default_char, bool* used_default) {
   if (text == nullptr || capacity < 0 || (capacity > 0 && out == nullptr) || length == 0) return 0;
+  code_page = resolve_alias(code_page);
   if (code_page == kCodePageUtf8 && (default_char != nullptr || used_default != nullptr)) return 0;
   UConverter* converter = converter_for(code_page);
   if (converter == nullptr) return 0;

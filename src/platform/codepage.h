@@ -19,6 +19,9 @@ inline constexpr unsigned kCodePageUtf8 = 65001;
 // Big5 950, anything else (the C locale included) 1252.
 unsigned ansi_code_page();
 
+// Every function here also takes the Windows aliases 0 (CP_ACP), 1 (CP_OEMCP),
+// 2 (CP_MACCP) and 3 (CP_THREAD_ACP).
+
 // Whether the code page has a converter here.
 bool is_code_page_supported(unsigned code_page);
 

@@ -78,6 +78,16 @@ TEST(CodePage, CountsWritesAndFailsLikeTheWindowsConverters) {
   EXPECT_EQ(wide[2], 0);
 }
 
+TEST(CodePage, WindowsAliasesNameTheAnsiPage) {
+  const std::string saved = std::setlocale(LC_ALL, nullptr);
+  std::setlocale(LC_ALL, "C");  // ANSI code page 1252
+  EXPECT_EQ(to_wide(0, "\x80"), u"\u20AC");
+  EXPECT_EQ(to_wide(3, "\x80"), u"\u20AC");
+  EXPECT_EQ(to_wide(1, "\x80"), u"\u00C7");  // OEM 437
+  EXPECT_TRUE(kiln::platform::is_code_page_supported(2));
+  std::setlocale(LC_ALL, saved.c_str());
+}
+
 TEST(CodePage, LeadBytesOnlyInDoubleBytePages) {
   EXPECT_TRUE(kiln::platform::is_lead_byte(932, 0x82));
   EXPECT_TRUE(kiln::platform::is_lead_byte(932, 0xE0));
