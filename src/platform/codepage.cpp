@@ -9,6 +9,7 @@
 #include <langinfo.h>
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <memory>
 #include <string_view>
@@ -140,6 +141,31 @@ bool convert_run_to_wide(UConverter* converter, const char* run, int run_length,
   return U_SUCCESS(status);
 }
 
+// The upper half of a single-byte code page, read once per thread through the
+// converter (each byte on its own is a whole character there).
+using SingleByteTable = std::array<KILN_WCHAR, 128>;
+
+const SingleByteTable* single_byte_table(unsigned code_page, UConverter* converter) {
+  thread_local std::unordered_map<unsigned, std::unique_ptr<SingleByteTable>> tables;
+  auto found = tables.find(code_page);
+  if (found != tables.end()) return found->second.get();
+  std::unique_ptr<SingleByteTable> table;
+  if (ucnv_getMaxCharSize(converter) == 1) {
+    table = std::make_unique<SingleByteTable>();
+    for (int b = 0x80; b <= 0xFF && table; ++b) {
+      const char byte = static_cast<char>(b);
+      KILN_WCHAR units[2];
+      Output<KILN_WCHAR> output(units, 2);
+      if (!convert_run_to_wide(converter, &byte, 1, output) || output.size() != 1) {
+        table.reset();  // a byte that is not one unit: convert the slow way
+      } else {
+        (*table)[b - 0x80] = units[0];
+      }
+    }
+  }
+  return tables.emplace(code_page, std::move(table)).first->second.get();
+}
+
 // Records that a substitution (the default character) was made.
 struct SubstitutionContext {
   const char* default_char;
@@ -241,6 +267,15 @@ int multibyte_to_wide(unsigned code_page, const char* text, int length, KILN_WCH
   const int n = text_length(text, length);
   const auto* bytes = reinterpret_cast<const unsigned char*>(text);
   Output<KILN_WCHAR> output(out, capacity);
+  if (code_page == kCodePageUtf8) {  // ICU's UTF-8 maps ASCII as it is: one pass
+    return convert_run_to_wide(converter, text, n, output) ? output.size() : 0;
+  }
+  if (const SingleByteTable* table = single_byte_table(code_page, converter)) {
+    for (int i = 0; i < n; ++i) {
+      if (!output.put(bytes[i] < 0x80 ? bytes[i] : (*table)[bytes[i] - 0x80])) return 0;
+    }
+    return output.size();
+  }
   for (int i = 0; i < n;) {
     if (bytes[i] < 0x80) {
       if (!output.put(bytes[i++])) return 0;
