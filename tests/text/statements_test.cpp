@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+#include <random>
 #include <string>
+#include <vector>
 
 using namespace text_test;
 
@@ -183,4 +186,64 @@ TEST(RemainingTerm, UpToTheExposedCloser) {
   EXPECT_EQ(KILNUTIL_get_remaining_term(&term, missing.get(), brackets), nullptr);
   EXPECT_EQ(brackets[0], 65534);
   EXPECT_EQ(brackets[1], 65535);
+}
+
+namespace {
+
+// One call on text: offsets from text, the status, the last scan position and
+// the bytes of the text afterwards.
+struct Call {
+  long first, next;
+  int status;
+  long scan;
+  std::string bytes;
+  bool operator==(const Call&) const = default;
+};
+
+Call separate_at(char* text) {
+  const std::size_t length = std::strlen(text);
+  char* first = nullptr;
+  int status = 0;
+  char* next = KILNUTIL_separate_one_statement(&first, text, &status);
+  const char* scan = KILNUTIL_exposed_char_pos_ex_loc_ex(nullptr, 0, 0, nullptr, 0, nullptr);
+  return {offset(text, first), offset(text, next), status, offset(text, scan), std::string(text, length)};
+}
+
+}  // namespace
+
+// A chain of calls over one buffer (where the splitter may remember what it
+// learnt about the rest) gives what each call gives on a fresh copy of its text.
+TEST(Statement, ChainMatchesFreshCalls) {
+  static const char* const kPieces[] = {"x", "=", "12", "1e 5", " ", " ", ";", ";", ":", "::", "?", "{", "}", ",",
+                                        "\"", "'", "(", ")", "[", "]", "<", "\\", ".", "\xC2\xA0", "\xE2"};
+  std::mt19937 random(7);
+  for (int round = 0; round < 3000; ++round) {
+    std::string script;
+    for (int n = static_cast<int>(random() % 40); n > 0; --n) script += kPieces[random() % std::size(kPieces)];
+    if (round % 2 == 0) std::erase(script, '{');
+    Text chain(script);
+    std::vector<std::string> inputs;
+    std::vector<Call> calls;
+    for (char* p = chain.get(); p != nullptr && calls.size() < 100;) {
+      inputs.emplace_back(p);
+      const char* before = p;
+      calls.push_back(separate_at(p));
+      p = calls.back().next < 0 ? nullptr : p + calls.back().next;
+      if (p != nullptr && calls.back().status > 0) *p = static_cast<char>(calls.back().status);
+      ASSERT_TRUE(p == nullptr || p > before);
+    }
+    std::vector<Text> copies(inputs.begin(), inputs.end());  // all alive: no address is met twice
+    for (std::size_t i = 0; i < calls.size(); ++i) EXPECT_EQ(separate_at(copies[i].get()), calls[i]) << script;
+  }
+}
+
+TEST(Statement, ChangedScanRulesMidChain) {
+  Text t("a=1;b=\"\\\";{\";c");
+  char* first = nullptr;
+  int status = 0;
+  char* next = KILNUTIL_separate_one_statement(&first, t.get(), &status);
+  *next = static_cast<char>(status);
+  EscapesOff off;  // the quote now closes before the ";" and the "{" is exposed
+  EXPECT_EQ(KILNUTIL_separate_one_statement(&first, next, &status), nullptr);
+  EXPECT_EQ(status, -1);
 }
