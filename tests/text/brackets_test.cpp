@@ -4,56 +4,49 @@
 
 using namespace text_test;
 
-TEST(FindEndParenthesis, ClosesTheAlreadyOpenPair) {
-  int error = -9;
-  const char text[] = "a(b)c)d";
-  EXPECT_EQ(offset(text, KILNUTIL_find_end_parenthesis(text, &error)), 5);
-  EXPECT_EQ(error, 0);
-  EXPECT_EQ(KILNUTIL_find_end_parenthesis("a(b", &error), nullptr);
-  EXPECT_EQ(error, 1);
-  EXPECT_EQ(KILNUTIL_find_end_parenthesis("a')'b", &error), nullptr);
-  EXPECT_EQ(error, 1);
-  EXPECT_EQ(KILNUTIL_find_end_parenthesis("a'b)", &error), nullptr);
-  EXPECT_EQ(error, 2);
-  EXPECT_EQ(KILNUTIL_find_end_parenthesis("\"a\\\")\"", &error), nullptr);
-  EXPECT_EQ(error, 1);
-  const char quoted[] = "\")\")";
-  EXPECT_EQ(offset(quoted, KILNUTIL_find_end_parenthesis(quoted, &error)), 3);
-  const char braces[] = "{a}\"}\"}";
-  EXPECT_EQ(offset(braces, KILNUTIL_find_end_curly_brace(braces, &error)), 6);
-  EXPECT_EQ(KILNUTIL_find_end_curly_brace("\"", &error), nullptr);
-  EXPECT_EQ(error, 3);
+TEST(FindEnd, ClosesTheAlreadyOpenPair) {
+  struct Case {
+    const char* text;
+    bool curly;
+    long expected;
+    int error;
+  } cases[] = {
+      {"a(b)c)d", false, 5, 0}, {"a(b", false, -1, 1},  {"a')'b", false, -1, 1},  {"\"a\\\")\"", false, -1, 1},
+      {"a'b)", false, -1, 2},   {"\")\")", false, 3, 0}, {"{a}\"}\"}", true, 6, 0}, {"\"", true, -1, 3},
+  };
+  for (const Case& c : cases) {
+    int error = -9;
+    const char* hit = c.curly ? KILNUTIL_find_end_curly_brace(c.text, &error) : KILNUTIL_find_end_parenthesis(c.text, &error);
+    EXPECT_EQ(offset(c.text, hit), c.expected) << c.text;
+    EXPECT_EQ(error, c.error) << c.text;
+  }
 }
 
-TEST(FindMatchingOpener, OpenerOfAGivenCloser) {
-  const char text[] = "f(a, g(b)) + h(c)";
-  EXPECT_EQ(offset(text, KILNUTIL_find_matching_opening_paranthesis_ex(text, text + 9, 0, nullptr)), 1);
-  EXPECT_EQ(offset(text, KILNUTIL_find_matching_opening_paranthesis_ex(text, text + 16, 0, nullptr)), 14);
-  // The inner closer is not the closer of a top-level pair.
-  EXPECT_EQ(KILNUTIL_find_matching_opening_paranthesis_ex(text, text + 8, 0, nullptr), nullptr);
-  EXPECT_EQ(KILNUTIL_find_matching_opening_paranthesis_ex(text, text + 3, 0, nullptr), nullptr);  // not a closer
-}
-
-TEST(FindMatchingOpener, ColonFlagFromTheFirstCloser) {
-  const char label[] = "(a):x";
-  int colon = 0;
-  KILNUTIL_find_matching_opening_paranthesis_ex(label, label + 2, 0, &colon);
-  EXPECT_EQ(colon, 1);
-  const char subscript[] = "(a):[1]";
-  colon = 0;
-  KILNUTIL_find_matching_opening_paranthesis_ex(subscript, subscript + 2, 0, &colon);
-  EXPECT_EQ(colon, 0);
-  const char later[] = "(a)+(b):";
-  colon = 0;
-  EXPECT_EQ(offset(later, KILNUTIL_find_matching_opening_paranthesis_ex(later, later + 6, 0, &colon)), 4);
-  EXPECT_EQ(colon, 0);  // decided by the first closer found
-}
-
-TEST(FindMatchingOpener, AngleBracketsNeedTheSetting) {
-  const char text[] = "a<b>";
-  EXPECT_EQ(KILNUTIL_find_matching_opening_paranthesis_ex(text, text + 3, 0, nullptr), nullptr);
-  AngleBrackets on(true);
-  EXPECT_EQ(offset(text, KILNUTIL_find_matching_opening_paranthesis_ex(text, text + 3, 0, nullptr)), 1);
+TEST(FindMatchingOpener, OpenerOfAGivenCloserAndTheColonFlag) {
+  struct Case {
+    const char* text;
+    long closer;
+    long expected;
+    int colon;  // -1: not looked at
+  } cases[] = {
+      {"f(a, g(b)) + h(c)", 9, 1, -1}, {"f(a, g(b)) + h(c)", 16, 14, -1},
+      {"f(a, g(b)) + h(c)", 8, -1, -1},  // an inner closer closes no top-level pair
+      {"f(a, g(b)) + h(c)", 3, -1, -1},  // not a closer
+      {"a<b>", 3, -1, -1},               // "<" ">" only with the setting
+      {"(a):x", 2, 0, 1}, {"(a):[1]", 2, 0, 0},
+      {"(a)+(b):", 6, 4, 0},  // decided by the first closer found
+  };
+  for (const Case& c : cases) {
+    int colon = 0;
+    EXPECT_EQ(offset(c.text, KILNUTIL_find_matching_opening_paranthesis_ex(c.text, c.text + c.closer, 0, &colon)),
+              c.expected) << c.text;
+    if (c.colon >= 0) {
+      EXPECT_EQ(colon, c.colon) << c.text;
+    }
+  }
+  Restore on = angle_brackets(true);
+  const char angle[] = "a<b>";
+  EXPECT_EQ(offset(angle, KILNUTIL_find_matching_opening_paranthesis_ex(angle, angle + 3, 0, nullptr)), 1);
 }
 
 TEST(BracketMismatch, Codes) {
