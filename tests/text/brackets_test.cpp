@@ -16,7 +16,8 @@ TEST(FindEnd, ClosesTheAlreadyOpenPair) {
   };
   for (const Case& c : cases) {
     int error = -9;
-    const char* hit = c.curly ? KILNUTIL_find_end_curly_brace(c.text, &error) : KILNUTIL_find_end_parenthesis(c.text, &error);
+    const char* hit =
+        c.curly ? KILNUTIL_find_end_curly_brace(c.text, &error) : KILNUTIL_find_end_parenthesis(c.text, &error);
     EXPECT_EQ(offset(c.text, hit), c.expected) << c.text;
     EXPECT_EQ(error, c.error) << c.text;
   }

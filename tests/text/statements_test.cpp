@@ -5,6 +5,7 @@
 #include <cstring>
 #include <random>
 #include <string>
+#include <tuple>
 #include <vector>
 
 using namespace text_test;
@@ -54,9 +55,8 @@ TEST(Statement, Cases) {
   for (const Case& c : cases) {
     Text t(c.text);
     const Call call = separate_at(t.get());
-    EXPECT_EQ(call.first, c.first) << c.text;
-    EXPECT_EQ(call.next, c.next) << c.text;
-    EXPECT_EQ(call.status, c.status) << c.text;
+    EXPECT_EQ(std::tie(call.first, call.next, call.status), std::tuple(std::string(c.first), c.next, c.status))
+        << c.text;
   }
 }
 
@@ -66,6 +66,7 @@ struct Term {
   std::string term;
   int op;
   long end, next;
+  bool operator==(const Term&) const = default;
 };
 
 Term separate_term(const char* s, bool with_op) {
@@ -95,13 +96,7 @@ TEST(Term, Cases) {
       // A bracketed term, and a missing closer.
       {"(a + b) * c", true, {"a + b", ')', 6, 8}}, {"(a + b", true, {"(a + b", -1, -1, -1}},
   };
-  for (const Case& c : cases) {
-    const Term t = separate_term(c.text, c.with_op);
-    EXPECT_EQ(t.term, c.expected.term) << c.text;
-    EXPECT_EQ(t.op, c.expected.op) << c.text;
-    EXPECT_EQ(t.end, c.expected.end) << c.text;
-    EXPECT_EQ(t.next, c.expected.next) << c.text;
-  }
+  for (const Case& c : cases) EXPECT_EQ(separate_term(c.text, c.with_op), c.expected) << c.text;
 }
 
 TEST(PrecedingTerm, BetweenTheLastOpenerAndTheCloser) {

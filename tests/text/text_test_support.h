@@ -25,19 +25,17 @@ class Restore {
 };
 
 inline Restore string_process_code_page(unsigned cp) {
-  const unsigned previous = set_code_page_for_string_process(cp);
-  return Restore([previous] { set_code_page_for_string_process(previous); });
+  return Restore([previous = set_code_page_for_string_process(cp)] { set_code_page_for_string_process(previous); });
+}
+
+inline Restore angle_brackets(bool on) {
+  return Restore([previous = set_parenth_use_angle_brackets(on)] { set_parenth_use_angle_brackets(previous); });
 }
 
 inline Restore no_break_space(bool on) {
   const unsigned char previous = KILNUTIL_test_char_NBSP(0, 0);
   KILNUTIL_test_char_NBSP(1, on);
   return Restore([previous] { KILNUTIL_test_char_NBSP(1, previous); });
-}
-
-inline Restore angle_brackets(bool on) {
-  const unsigned previous = set_parenth_use_angle_brackets(on);
-  return Restore([previous] { set_parenth_use_angle_brackets(previous); });
 }
 
 // The control mask has no getter; tests leave it at its default, 0.
