@@ -99,33 +99,25 @@ TEST(Term, Cases) {
   for (const Case& c : cases) EXPECT_EQ(separate_term(c.text, c.with_op), c.expected) << c.text;
 }
 
-TEST(PrecedingTerm, BetweenTheLastOpenerAndTheCloser) {
-  Text t("f(a, g( x ) )");
+TEST(PrecedingAndRemainingTerm, BetweenOpenerAndCloser) {
   char* term = nullptr;
+  Text t("f(a, g( x ) )");
   EXPECT_EQ(offset(t.get(), KILNUTIL_get_preceeding_term(&term, t.at(10), t.get())), 6);
   EXPECT_STREQ(term, "x");
   Text none("a b)");
   EXPECT_EQ(KILNUTIL_get_preceeding_term(&term, none.at(3), none.get()), nullptr);
-  Text not_closer("a(b");
-  EXPECT_EQ(KILNUTIL_get_preceeding_term(&term, not_closer.at(1), not_closer.get()), nullptr);
-}
-
-TEST(RemainingTerm, UpToTheExposedCloser) {
-  Text t(" a,(b) ) + c");
-  char* term = nullptr;
+  EXPECT_EQ(KILNUTIL_get_preceeding_term(&term, t.at(1), t.get()), nullptr);  // not a closer
+  Text rest(" a,(b) ) + c");
   unsigned short brackets[2] = {'(', 0};
-  EXPECT_EQ(offset(t.get(), KILNUTIL_get_remaining_term(&term, t.get(), brackets)), 9);
+  EXPECT_EQ(offset(rest.get(), KILNUTIL_get_remaining_term(&term, rest.get(), brackets)), 9);
   EXPECT_STREQ(term, "a,(b)");
   Text missing("a \"b\" c");
-  brackets[0] = '(';
   EXPECT_EQ(KILNUTIL_get_remaining_term(&term, missing.get(), brackets), nullptr);
-  EXPECT_EQ(brackets[0], 65535);
-  EXPECT_EQ(brackets[1], 65535);
+  EXPECT_EQ(std::tuple(brackets[0], brackets[1]), std::tuple(65535, 65535));
   EXPECT_EQ(term, missing.at(2));  // the last scan position: the quoted section
   brackets[0] = 'x';
   EXPECT_EQ(KILNUTIL_get_remaining_term(&term, missing.get(), brackets), nullptr);
-  EXPECT_EQ(brackets[0], 65534);
-  EXPECT_EQ(brackets[1], 65535);
+  EXPECT_EQ(std::tuple(brackets[0], brackets[1]), std::tuple(65534, 65535));
 }
 
 // A chain of calls over one buffer (where the splitter may remember what it
