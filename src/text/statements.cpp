@@ -20,7 +20,8 @@ struct StatementEnd {
 
 // Closes up the white space around the "::" at colons: the "::" follows the
 // last non-space character before it, and the text after it follows at once.
-void join_double_colon(char* begin, char* colons) {
+// Returns whether the text moved.
+bool join_double_colon(char* begin, char* colons) {
   char* left = colons;
   while (left > begin) {
     const char* before = char_before(begin, left);
@@ -28,20 +29,20 @@ void join_double_colon(char* begin, char* colons) {
     left = mutable_pos(before);
   }
   const char* rest = skip_spaces(colons + 2);
-  if (left == colons && rest == colons + 2) return;  // no white space around it
+  if (left == colons && rest == colons + 2) return false;  // no white space around it
   left[0] = ':';
   left[1] = ':';
   std::memmove(left + 2, rest, std::strlen(rest) + 1);
+  return true;
 }
 
-// The ";" or label colon that ends the statement at p, if any. *joined: a
-// "::" was closed up (the text behind it may have moved).
-StatementEnd separator_end(char* p, bool* joined) {
+// The ";" or label colon that ends the statement at p, if any. *moved: white
+// space around a "::" was closed up, moving the text behind it.
+StatementEnd separator_end(char* p, bool* moved) {
   char* sep = mutable_pos(exposed_match(p, CharSet(";:"), 0, false));
   if (sep == nullptr || *sep == ';') return {sep, false};
   if (sep[1] == ':') {
-    join_double_colon(p, sep);
-    *joined = true;
+    *moved = join_double_colon(p, sep);
   } else if (exposed_char(p, '?', 0, nullptr, false, sep) == nullptr) {
     return {sep, true};  // a label
   }
@@ -149,10 +150,10 @@ char* KILNUTIL_separate_one_statement(char** first, char* text, int* status) {
   }
   char* p = trim_left(text);
   if (first != nullptr) *first = p;
-  bool joined = false;
-  StatementEnd end = separator_end(p, &joined);
+  bool moved = false;
+  StatementEnd end = separator_end(p, &moved);
   const ScanRules rules = scan_rules(0, false);
-  const BraceScan rest = first_exposed_brace(p, rules, !joined);
+  const BraceScan rest = first_exposed_brace(p, rules, !moved);
   g_brace_free_rest = {};  // replaced below when this call hands back a brace-free rest
   bool unclosed = false;
   char* block = block_end(rest.open, &unclosed);
