@@ -105,3 +105,23 @@ void BM_SplitStatements(benchmark::State& state) {
 BENCHMARK(BM_SplitStatements)->Unit(benchmark::kMillisecond);
 
 }  // namespace
+
+// Brace-free statements at growing sizes: the time per byte stays flat when
+// a chain of calls reads the text once.
+void BM_SplitBraceFree(benchmark::State& state) {
+  std::string text;
+  while (text.size() < static_cast<std::size_t>(state.range(0))) text += "x1 = sin(t[i]) * 2.5e-3 + \"a;b\"; n = n + 1;\n";
+  std::vector<char> buffer(text.size() + 1);
+  for (auto _ : state) {
+    std::memcpy(buffer.data(), text.c_str(), text.size() + 1);
+    for (char* p = buffer.data(); p != nullptr;) {
+      char* first = nullptr;
+      int status = 0;
+      char* next = KILNUTIL_separate_one_statement(&first, p, &status);
+      if (next != nullptr && status > 0) *next = static_cast<char>(status);
+      p = next;
+    }
+  }
+  state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * static_cast<int64_t>(text.size()));
+}
+BENCHMARK(BM_SplitBraceFree)->Arg(16 << 10)->Arg(256 << 10);

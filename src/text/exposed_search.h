@@ -30,6 +30,8 @@ struct ScanRules {
   bool single_quote_first_only = false;
   bool skip_numbers = true;
   bool escapes = true;  // a backslash escapes inside quoted sections
+
+  bool operator==(const ScanRules&) const = default;
 };
 
 // loc false: both quotes always count, and "<" ">" only while the

@@ -17,44 +17,31 @@ TEST(TestChar, ClassesOfTheAsciiRange) {
   for (const Case& c : cases) EXPECT_EQ(KILNUTIL_test_char(c.c), c.expected) << "character " << c.c;
 }
 
-TEST(TestChar, NoBreakSpaceFollowsItsSetting) {
-  {
-    NoBreakSpace on(true);
-    EXPECT_EQ(KILNUTIL_test_char(160), 8);
-    EXPECT_EQ(KILNUTIL_isspace(160), 1);
-  }
-  NoBreakSpace off(false);
-  EXPECT_EQ(KILNUTIL_test_char(160), 16);
-  EXPECT_EQ(KILNUTIL_isspace(160), 0);
-}
-
 TEST(TestChar, ControlMaskRemapsModifiedCharacters) {
-  {
-    ControlMask mask(1);
-    EXPECT_EQ(KILNUTIL_test_char('('), 4);
-    EXPECT_EQ(KILNUTIL_test_char('+'), 4);  // modifier 2 does not share bit 1
-    EXPECT_EQ(KILNUTIL_test_char('&'), 15);
-  }
-  {
-    ControlMask mask(2 | 4);
-    EXPECT_EQ(KILNUTIL_test_char('+'), 0);
-    EXPECT_EQ(KILNUTIL_test_char('^'), 0);
-    EXPECT_EQ(KILNUTIL_test_char('\t'), 0);
-    EXPECT_EQ(KILNUTIL_test_char('('), 5);
-    EXPECT_EQ(KILNUTIL_test_char(' '), 8);
-  }
-  {
-    ControlMask mask(16);
-    EXPECT_EQ(KILNUTIL_test_char('&'), 4);
-    EXPECT_EQ(KILNUTIL_test_char('|'), 4);
+  struct Case {
+    unsigned char mask;
+    int c;
+    int expected;
+  } cases[] = {
+      {1, '(', 4},  {1, '+', 4},  {1, '&', 15},  // modifier 2 does not share bit 1
+      {6, '+', 0},  {6, '^', 0},  {6, '\t', 0}, {6, '(', 5}, {6, ' ', 8},
+      {16, '&', 4}, {16, '|', 4},
+  };
+  for (const Case& c : cases) {
+    Restore mask = control_mask(c.mask);
+    EXPECT_EQ(KILNUTIL_test_char(c.c), c.expected) << "mask " << int{c.mask} << " character " << c.c;
   }
   EXPECT_EQ(KILNUTIL_test_char('('), 5);
 }
 
-TEST(IsSpace, SpaceAndNineToThirteenOnly) {
-  for (int c = 0; c < 256; ++c) {
-    const bool expected = c == ' ' || (c >= 9 && c <= 13) || c == 160;
-    EXPECT_EQ(KILNUTIL_isspace(c), expected ? 1 : 0) << c;
+TEST(IsSpace, SpaceAndNineToThirteenAndTheNoBreakSpaceWhenOn) {
+  for (bool nbsp : {true, false}) {
+    Restore setting = no_break_space(nbsp);
+    for (int c = 0; c < 256; ++c) {
+      const bool expected = c == ' ' || (c >= 9 && c <= 13) || (nbsp && c == 160);
+      EXPECT_EQ(KILNUTIL_isspace(c), expected ? 1 : 0) << c;
+    }
+    EXPECT_EQ(KILNUTIL_test_char(160), nbsp ? 8 : 16);
   }
   EXPECT_EQ(KILNUTIL_isspace(-1), 0);
 }

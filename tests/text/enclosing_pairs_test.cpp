@@ -6,53 +6,27 @@
 
 using namespace text_test;
 
-namespace {
-
-struct Stripped {
-  std::string text;
-  int kind;
-};
-
-Stripped str_inside(const std::string& s, unsigned options) {
-  Text t(s);
-  int kind = 99;
-  const char* inner = KILNUTIL_str_inside_ex(t.get(), options, &kind);
-  return {inner, kind};
-}
-
-}  // namespace
-
-TEST(StrInside, OnePair) {
-  EXPECT_EQ(str_inside("(a+b)*c", 0).text, "(a+b)*c");
-  EXPECT_EQ(str_inside("(a+b)*c", 0).kind, 0);
-  EXPECT_EQ(str_inside("\"abc\"", 0).text, "abc");
-  EXPECT_EQ(str_inside("\"abc\"", 0).kind, 3);
-  EXPECT_EQ(str_inside("(a+b)  ", 0).text, "a+b");
-  EXPECT_EQ(str_inside("(a+b)", 0).kind, 1);
-  EXPECT_EQ(str_inside("{x}", 0).kind, 2);
-  EXPECT_EQ(str_inside("[x]", 0).kind, 4);
-  EXPECT_EQ(str_inside("(a)(b)", 0).text, "(a)(b)");
-  EXPECT_EQ(str_inside("((a)(b))", 0).text, "(a)(b)");
-  EXPECT_EQ(str_inside("  (a)", 0).text, "  (a)");
-  EXPECT_EQ(str_inside("  (a)", 1).text, "a");
-}
-
-TEST(StrInside, CloserNotLastAndMissingCloser) {
-  Stripped s = str_inside("(a+b)*c", 2);
-  EXPECT_EQ(s.text, "a+b");
-  EXPECT_EQ(s.kind, 1);
-  s = str_inside("(a\")", 0x1000);  // the quote hides the closer from the search
-  EXPECT_EQ(s.text, "a\"");
-  EXPECT_EQ(s.kind, -1);
-  s = str_inside("a+b)", 0);
-  EXPECT_EQ(s.text, "a+b)");
-  EXPECT_EQ(s.kind, -2);
-  s = str_inside("<a>", 0);
-  EXPECT_EQ(s.kind, 0);
-  // The top byte passes search flags: without parentheses as brackets the
-  // first ")" closes.
-  s = str_inside("((a))", 0x01000000 | 2);
-  EXPECT_EQ(s.text, "(a");
+TEST(StrInside, Cases) {
+  struct Case {
+    const char* text;
+    unsigned options;
+    const char* inside;
+    int kind;
+  } cases[] = {
+      {"(a+b)*c", 0, "(a+b)*c", 0}, {"\"abc\"", 0, "abc", 3}, {"(a+b)  ", 0, "a+b", 1}, {"{x}", 0, "x", 2},
+      {"[x]", 0, "x", 4},           {"<a>", 0, "<a>", 0},     {"(a)(b)", 0, "(a)(b)", 0},
+      {"((a)(b))", 0, "(a)(b)", 1}, {"  (a)", 0, "  (a)", -2}, {"  (a)", 1, "a", 1},
+      {"(a+b)*c", 2, "a+b", 1},           // the closer need not be last
+      {"(a\")", 0x1000, "a\"", -1},       // the quote hides the closer from the search
+      {"a+b)", 0, "a+b)", -2},            // a closer without opener
+      {"((a))", 0x01000000 | 2, "(a", 1}, // search flags in the top byte: "(" no bracket, the first ")" closes
+  };
+  for (const Case& c : cases) {
+    Text t(c.text);
+    int kind = 99;
+    EXPECT_STREQ(KILNUTIL_str_inside_ex(t.get(), c.options, &kind), c.inside) << c.text;
+    EXPECT_EQ(kind, c.kind) << c.text;
+  }
 }
 
 TEST(RemoveQuotes, Repeatedly) {
@@ -71,35 +45,28 @@ TEST(RemoveQuotes, Repeatedly) {
 }
 
 TEST(QuotedTerm, CopiesAndReturnsThePositionBehindTheSeparator) {
-  char dest[64];
-  const char text[] = "  \"a,b\",c";
-  EXPECT_EQ(offset(text, KILNUTIL_next_quoted_term(dest, text, ',')), 8);
-  EXPECT_STREQ(dest, "a,b");
-  const char plain[] = "ab,c";
-  EXPECT_EQ(offset(plain, KILNUTIL_next_quoted_term(dest, plain, ',')), 3);
-  EXPECT_STREQ(dest, "ab");
-  EXPECT_EQ(KILNUTIL_next_quoted_term(dest, "last", ','), nullptr);
-  EXPECT_STREQ(dest, "last");
-}
-
-TEST(QuotedTerm, DoubledQuotesAndKeptQuotes) {
-  char dest[64];
-  const char doubled[] = "\"say \"\"hi\"\"\",x";
-  KILNUTIL_next_quoted_term_ex_ex(dest, doubled, ',', '"', 1, -1);
-  EXPECT_STREQ(dest, "say \"\"hi\"\"");
-  KILNUTIL_next_quoted_term_ex_ex(dest, doubled, ',', '"', 0, -1);
-  EXPECT_STREQ(dest, "\"say \"\"hi\"\"\"");
-  // An even run of quotes: the term is not quoted, so the separator ends it.
-  const char empty_quoted[] = "\"\"a,b";
-  EXPECT_EQ(offset(empty_quoted, KILNUTIL_next_quoted_term_ex_ex(dest, empty_quoted, ',', '"', 1, -1)), 4);
-  EXPECT_STREQ(dest, "\"a");
-  // Unquoted, a quote right before the separator still closes the term.
-  const char inner[] = "ab\",c";
-  EXPECT_EQ(offset(inner, KILNUTIL_next_quoted_term_ex_ex(dest, inner, ',', '"', 1, -1)), 4);
-  EXPECT_STREQ(dest, "ab");
-  const char single[] = "'a;b';c";
-  EXPECT_EQ(offset(single, KILNUTIL_next_quoted_term_ex_ex(dest, single, ';', '\'', 0, -1)), 6);
-  EXPECT_STREQ(dest, "'a;b'");
+  struct Case {
+    const char* text;
+    char sep, quote;
+    int remove;
+    const char* term;
+    long next;
+  } cases[] = {
+      {"  \"a,b\",c", ',', '"', 1, "a,b", 8}, {"ab,c", ',', '"', 1, "ab", 3}, {"last", ',', '"', 1, "last", -1},
+      {"\"say \"\"hi\"\"\",x", ',', '"', 1, "say \"\"hi\"\"", 13},
+      {"\"say \"\"hi\"\"\",x", ',', '"', 0, "\"say \"\"hi\"\"\"", 13},
+      {"\"\"a,b", ',', '"', 1, "\"a", 4},  // an even run of quotes: not quoted, the separator ends it
+      {"ab\",c", ',', '"', 1, "ab", 4},    // unquoted, a quote right before the separator still closes it
+      {"'a;b';c", ';', '\'', 0, "'a;b'", 6},
+  };
+  for (const Case& c : cases) {
+    char dest[64];
+    const bool plain = c.quote == '"' && c.remove == 1;  // the short form's defaults
+    const char* next = plain ? KILNUTIL_next_quoted_term(dest, c.text, c.sep)
+                             : KILNUTIL_next_quoted_term_ex_ex(dest, c.text, c.sep, c.quote, c.remove, -1);
+    EXPECT_EQ(offset(c.text, next), c.next) << c.text;
+    EXPECT_STREQ(dest, c.term) << c.text;
+  }
 }
 
 TEST(QuotedTerm, SizeBoundsTheCopy) {

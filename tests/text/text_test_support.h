@@ -1,58 +1,55 @@
-// Test helpers: settings changed for one test and restored afterwards, and
+// Test helpers: settings changed for one scope and restored afterwards, and
 // mutable copies of literal texts.
 #pragma once
 
 #include <kilnutil/frame.h>
 #include <kilnutil/text.h>
 
+#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace text_test {
 
-class StringProcessCodePage {
+// Runs undo at the end of the scope.
+class Restore {
  public:
-  explicit StringProcessCodePage(unsigned cp) : previous_(set_code_page_for_string_process(cp)) {}
-  ~StringProcessCodePage() { set_code_page_for_string_process(previous_); }
+  explicit Restore(std::function<void()> undo) : undo_(std::move(undo)) {}
+  Restore(const Restore&) = delete;
+  Restore& operator=(const Restore&) = delete;
+  ~Restore() { undo_(); }
 
  private:
-  unsigned previous_;
+  std::function<void()> undo_;
 };
 
-class NoBreakSpace {
- public:
-  explicit NoBreakSpace(bool on) : previous_(KILNUTIL_test_char_NBSP(0, 0)) { KILNUTIL_test_char_NBSP(1, on); }
-  ~NoBreakSpace() { KILNUTIL_test_char_NBSP(1, previous_); }
+inline Restore string_process_code_page(unsigned cp) {
+  return Restore([previous = set_code_page_for_string_process(cp)] { set_code_page_for_string_process(previous); });
+}
 
- private:
-  unsigned char previous_;
-};
+inline Restore angle_brackets(bool on) {
+  return Restore([previous = set_parenth_use_angle_brackets(on)] { set_parenth_use_angle_brackets(previous); });
+}
 
-class AngleBrackets {
- public:
-  explicit AngleBrackets(bool on) : previous_(set_parenth_use_angle_brackets(on)) {}
-  ~AngleBrackets() { set_parenth_use_angle_brackets(previous_); }
-
- private:
-  unsigned previous_;
-};
+inline Restore no_break_space(bool on) {
+  const unsigned char previous = KILNUTIL_test_char_NBSP(0, 0);
+  KILNUTIL_test_char_NBSP(1, on);
+  return Restore([previous] { KILNUTIL_test_char_NBSP(1, previous); });
+}
 
 // The control mask has no getter; tests leave it at its default, 0.
-class ControlMask {
- public:
-  explicit ControlMask(unsigned char mask) { KILNUTIL_test_char_cntrl(mask); }
-  ~ControlMask() { KILNUTIL_test_char_cntrl(0); }
-};
+inline Restore control_mask(unsigned char mask) {
+  KILNUTIL_test_char_cntrl(mask);
+  return Restore([] { KILNUTIL_test_char_cntrl(0); });
+}
 
-// Backslash escapes off for the lifetime of the object (the -1/-2 control calls).
-class EscapesOff {
- public:
-  EscapesOff() { KILNUTIL_exposed_char_pos_ex_loc_ex(nullptr, -1, 0, &saved_, 0, nullptr); }
-  ~EscapesOff() { KILNUTIL_exposed_char_pos_ex_loc_ex(nullptr, -2, 0, &saved_, 0, nullptr); }
-
- private:
-  int saved_ = 0;
-};
+// Backslash escapes off (the -1/-2 control calls of the exposed search).
+inline Restore escapes_off() {
+  int saved = 0;
+  KILNUTIL_exposed_char_pos_ex_loc_ex(nullptr, -1, 0, &saved, 0, nullptr);
+  return Restore([saved]() mutable { KILNUTIL_exposed_char_pos_ex_loc_ex(nullptr, -2, 0, &saved, 0, nullptr); });
+}
 
 // A writable, NUL-terminated copy of a text.
 class Text {
@@ -60,7 +57,6 @@ class Text {
   explicit Text(const std::string& s) : bytes_(s.begin(), s.end()) { bytes_.push_back('\0'); }
   char* get() { return bytes_.data(); }
   char* at(std::size_t i) { return bytes_.data() + i; }
-  std::size_t size() const { return bytes_.size() - 1; }
 
  private:
   std::vector<char> bytes_;

@@ -9,9 +9,11 @@ using namespace text_test;
 
 namespace {
 
-std::vector<std::string> all_tokens(const std::string& s) {
+using Tokens = std::vector<std::string>;
+
+Tokens all_tokens(const std::string& s) {
   std::vector<char> dest(s.size() + 1);
-  std::vector<std::string> tokens;
+  Tokens tokens;
   const char* p = s.c_str();
   for (int guard = 0; *p != '\0' && guard < 100; ++guard) {
     p = KILNUTIL_next_token(dest.data(), p);
@@ -20,94 +22,76 @@ std::vector<std::string> all_tokens(const std::string& s) {
   return tokens;
 }
 
-using Tokens = std::vector<std::string>;
-
 }  // namespace
 
-TEST(NextToken, OperatorsDelimitButStarDoesNot) {
-  EXPECT_EQ(all_tokens("a=b+1.5e-3*c"), (Tokens{"a", "=", "b", "+", "1.5e-3*c"}));
-  EXPECT_EQ(all_tokens("x^2 / y"), (Tokens{"x", "^", "2", "/", "y"}));
-  EXPECT_EQ(all_tokens("2E+5+e-1"), (Tokens{"2E+5", "+", "e", "-", "1"}));
-  EXPECT_EQ(all_tokens("a*-b"), (Tokens{"a*", "-", "b"}));
+TEST(NextToken, Sequences) {
+  struct Case {
+    const char* text;
+    Tokens tokens;
+  } cases[] = {
+      // Operators delimit, "*" does not; a sign after a digit and "e" belongs to the number.
+      {"a=b+1.5e-3*c", {"a", "=", "b", "+", "1.5e-3*c"}}, {"x^2 / y", {"x", "^", "2", "/", "y"}},
+      {"2E+5+e-1", {"2E+5", "+", "e", "-", "1"}}, {"a*-b", {"a*", "-", "b"}},
+      // A token that is one enclosed section loses its pair.
+      {"\"a b\"+[1;2]", {"a b", "+", "1;2"}}, {"((a)b) c", {"(a)b", "c"}},
+      // Brackets later in the token: "(" "[" are kept, "{" and a quote end it first.
+      {"f(a + b)+1", {"f(a + b)", "+", "1"}}, {"m[1][2]", {"m[1]", "2"}}, {"f(a[b)c]", {"f(a[b)", "c]"}},
+      {"ab{c}", {"ab", "c"}}, {"ab\"c d\"", {"ab", "c d"}}, {"f(a", {"f(a"}},
+  };
+  for (const Case& c : cases) EXPECT_EQ(all_tokens(c.text), c.tokens) << c.text;
 }
 
-TEST(NextToken, EnclosedTokenDropsItsPair) {
+TEST(NextToken, EnclosedFlagSemicolonAndEnd) {
   char dest[32];
   const char text[] = "(x + 1) y";
   EXPECT_EQ(offset(text, KILNUTIL_next_token(dest, text)), 8);
   EXPECT_STREQ(dest, "x + 1");
   EXPECT_EQ(KILNUTIL_next_token_enclosed(), 1);
-  EXPECT_EQ(all_tokens("\"a b\"+[1;2]"), (Tokens{"a b", "+", "1;2"}));
-  EXPECT_EQ(all_tokens("((a)b) c"), (Tokens{"(a)b", "c"}));
-  KILNUTIL_next_token(dest, "y");
+  const char semicolon[] = "ab;cd";
+  EXPECT_EQ(offset(semicolon, KILNUTIL_next_token(dest, semicolon)), 2);
   EXPECT_EQ(KILNUTIL_next_token_enclosed(), 0);
-}
-
-TEST(NextToken, BracketsLaterInTheToken) {
-  EXPECT_EQ(all_tokens("f(a + b)+1"), (Tokens{"f(a + b)", "+", "1"}));
-  EXPECT_EQ(all_tokens("m[1][2]"), (Tokens{"m[1]", "2"}));
-  EXPECT_EQ(all_tokens("f(a[b)c]"), (Tokens{"f(a[b)", "c]"}));
-  EXPECT_EQ(all_tokens("ab{c}"), (Tokens{"ab", "c"}));
-  EXPECT_EQ(all_tokens("ab\"c d\""), (Tokens{"ab", "c d"}));
-  EXPECT_EQ(all_tokens("f(a"), (Tokens{"f(a"}));
-}
-
-TEST(NextToken, SemicolonAndEndOfText) {
-  char dest[16] = "zzz";
-  const char text[] = "ab;cd";
-  EXPECT_EQ(offset(text, KILNUTIL_next_token(dest, text)), 2);
-  EXPECT_STREQ(dest, "ab");
-  EXPECT_EQ(offset(text + 2, KILNUTIL_next_token(dest, text + 2)), 0);  // not consumed
+  EXPECT_EQ(offset(semicolon, KILNUTIL_next_token(dest, semicolon + 2)), 2);  // not consumed
   EXPECT_STREQ(dest, "");
   const char blank[] = "   ";
   EXPECT_EQ(offset(blank, KILNUTIL_next_token(dest, blank)), 3);
   EXPECT_STREQ(dest, "");
 }
 
-TEST(NextWord, WhiteSpaceOnly) {
+TEST(Words, WhiteSpaceSeparatorsAndSeparatorOrder) {
   char dest[32];
   const char text[] = "  f(a b) \t\"x y\"";
-  const char* p = KILNUTIL_next_word(dest, text);
-  EXPECT_STREQ(dest, "f(a");
-  p = KILNUTIL_next_word(dest, p);
-  EXPECT_STREQ(dest, "b)");
-  p = KILNUTIL_next_word(dest, p);
+  const char* p = KILNUTIL_next_word(dest, KILNUTIL_next_word(dest, text));
+  EXPECT_STREQ(dest, "b)");  // no brackets or quotes are considered
+  EXPECT_EQ(offset(text, KILNUTIL_next_word(dest, p)), 13);
   EXPECT_STREQ(dest, "\"x");
-  EXPECT_EQ(offset(text, p), 13);
-  NoBreakSpace on(true);
+  Restore nbsp = no_break_space(true);
   KILNUTIL_next_word(dest, "\xC3\xA9t\xC3\xA9\xC2\xA0x");
   EXPECT_STREQ(dest, "\xC3\xA9t\xC3\xA9");
-}
-
-TEST(GetNextWord, FirstOfSeveralSeparators) {
-  char dest[32];
-  const char text[] = "key = value";
-  EXPECT_EQ(offset(text, KILNUTIL_get_next_word(dest, text, ":=")), 6);
+  const char pair[] = "key = value";
+  EXPECT_EQ(offset(pair, KILNUTIL_get_next_word(dest, pair, ":=")), 6);
   EXPECT_STREQ(dest, "key ");
   EXPECT_EQ(KILNUTIL_get_next_word(dest, "novalue", ":="), nullptr);
   EXPECT_STREQ(dest, "novalue");
-}
-
-TEST(NextTokenSep, SeparatorsTakenInListOrder) {
-  char dest[32];
-  const char text[] = "a;b,c";
-  EXPECT_EQ(offset(text, KILNUTIL_next_token_sep(dest, text, ",;")), 4);
+  const char list[] = "a;b,c";  // the first separator of the list that occurs is used
+  EXPECT_EQ(offset(list, KILNUTIL_next_token_sep(dest, list, ",;")), 4);
   EXPECT_STREQ(dest, "a;b");
-  EXPECT_EQ(offset(text, KILNUTIL_next_token_sep(dest, text, ";,")), 2);
-  EXPECT_STREQ(dest, "a");
-  EXPECT_EQ(offset(text, KILNUTIL_next_token_sep(dest, text, "|")), 5);
+  EXPECT_EQ(offset(list, KILNUTIL_next_token_sep(dest, list, ";,")), 2);
+  EXPECT_EQ(offset(list, KILNUTIL_next_token_sep(dest, list, "|")), 5);
   EXPECT_STREQ(dest, "a;b,c");
 }
 
 TEST(FindAnyOf, ExposedOrAnywhere) {
-  const char text[] = "f(a;b)\"c:d\";e";
-  EXPECT_EQ(offset(text, KILNUTIL_find_any_of_characters_in_str(text, ";:", 0)), 11);
-  EXPECT_EQ(offset(text, KILNUTIL_find_any_of_characters_in_str(text, ";:", 0x10000)), 3);
-  EXPECT_EQ(offset(text, KILNUTIL_find_any_of_characters_in_str(text, "(", 0)), 1);
-  EXPECT_EQ(offset(text, KILNUTIL_find_any_of_characters_in_str(text, "\"", 0)), 6);
-  EXPECT_EQ(KILNUTIL_find_any_of_characters_in_str("1e-5", "-", 0), nullptr);
-  EXPECT_EQ(KILNUTIL_find_any_of_characters_in_str(text, "", 0), nullptr);
+  struct Case {
+    const char* text;
+    const char* set;
+    unsigned flags;
+    long expected;
+  } cases[] = {
+      {"f(a;b)\"c:d\";e", ";:", 0, 11}, {"f(a;b)\"c:d\";e", ";:", 0x10000, 3}, {"f(a;b)\"c:d\";e", "(", 0, 1},
+      {"f(a;b)\"c:d\";e", "\"", 0, 6},  {"1e-5", "-", 0, -1}, {"abc", "", 0, -1},
+      {"a(\xC3\xA9)\xC3\xA9", "\xC3\xA9", 0, 5},
+  };
+  for (const Case& c : cases)
+    EXPECT_EQ(offset(c.text, KILNUTIL_find_any_of_characters_in_str(c.text, c.set, c.flags)), c.expected) << c.text;
   EXPECT_EQ(KILNUTIL_find_any_of_characters_in_str(nullptr, ";", 0), nullptr);
-  const char accented[] = "a(\xC3\xA9)\xC3\xA9";
-  EXPECT_EQ(offset(accented, KILNUTIL_find_any_of_characters_in_str(accented, "\xC3\xA9", 0)), 5);
 }
