@@ -117,22 +117,17 @@ TEST(RealParser, IntegerPartIsReturnedWithItsSign) {
   EXPECT_EQ(integer_part, 1);  // the low 32 bits
 }
 
-TEST(RealParser, SeparatorSetterReturnsThePreviousOne) {
-  char comma[] = " ,";
-  EXPECT_EQ(KILNUTIL_cvtstr2real_ex(comma, nullptr, 0, nullptr), 46u);
-  char blank[] = "  ";
-  EXPECT_EQ(KILNUTIL_cvtstr2real_ex(blank, nullptr, 0, nullptr), 0u);
-  char dot[] = ".";
-  EXPECT_EQ(KILNUTIL_cvtstr2real_ex(dot, nullptr, 0, nullptr), static_cast<unsigned>(','));
-}
-
+// Setting the separator returns the previous one; a blank text sets nothing.
 TEST(RealParser, CommaSeparator) {
-  SeparatorScope comma(",");
+  char comma[] = " ,", blank[] = "  ", dot[] = ".";
+  EXPECT_EQ(KILNUTIL_cvtstr2real_ex(comma, nullptr, 0, nullptr), static_cast<unsigned>('.'));
+  EXPECT_EQ(KILNUTIL_cvtstr2real_ex(blank, nullptr, 0, nullptr), 0u);
   const Parsed parsed = parse("1,5");
   EXPECT_EQ(parsed.code, 2u);
   EXPECT_EQ(parsed.value, 1.5);
   EXPECT_EQ(parse("1.5").code, 0u);
   EXPECT_EQ(parse("-2,25e2").value, -225.0);
+  EXPECT_EQ(KILNUTIL_cvtstr2real_ex(dot, nullptr, 0, nullptr), static_cast<unsigned>(','));
 }
 
 TEST(RealParser, DigitPathWhenTheFractionSwitchIsOff) {
