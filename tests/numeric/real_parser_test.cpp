@@ -11,10 +11,7 @@
 
 namespace {
 
-struct Parsed {
-  unsigned code;
-  double value;
-};
+struct Parsed { unsigned code; double value; };
 
 Parsed parse(std::string text, unsigned flags = 1) {
   double value = 12345.0;  // kept when the parse fails
@@ -29,64 +26,33 @@ class SeparatorScope {
   ~SeparatorScope() { KILNUTIL_cvtstr2real_ex(const_cast<char*>("."), nullptr, 0, nullptr); }
 };
 
-class FractionSwitchScope {
- public:
-  explicit FractionSwitchScope(unsigned on) : previous_(KILNUTIL_str2real_use_atof(0, on)) {}
-  ~FractionSwitchScope() { KILNUTIL_str2real_use_atof(0, previous_); }
-
- private:
-  unsigned previous_;
-};
-
 constexpr unsigned kStrict = 1;
 constexpr unsigned kLenient = 0;
-constexpr double kAnyValue = 12345.0;  // the value parse() leaves on failure
+constexpr double kUntouched = 12345.0;  // the value a failed parse() leaves
 
-struct Case {
-  const char* text;
-  unsigned flags;
-  unsigned code;
-  double value;
-};
+struct Case { const char* text; unsigned flags, code; double value; };
 
 TEST(RealParser, FormsCodesAndValues) {
   const Case cases[] = {
-      {"3", kStrict, 1, 3.0},
-      {"3.25", kStrict, 2, 3.25},
-      {"-1.5e3", kStrict, 4, -1500.0},
+      {"3", kStrict, 1, 3.0}, {"3.25", kStrict, 2, 3.25}, {"-1.5e3", kStrict, 4, -1500.0},
       // The exponent follows the integer rule: "-0" is none, "" is 0.
-      {"1e-0", kStrict, 0, kAnyValue},
-      {"1e0", kStrict, 4, 1.0},
-      {"1e+0", kStrict, 4, 1.0},
-      {"1e", kStrict, 4, 1.0},
-      {"e5", kStrict, 0, kAnyValue},
-      {"-E5", kStrict, 0, kAnyValue},
-      {"1e308", kStrict, 0, kAnyValue},
-      {"1e-308", kStrict, 0, kAnyValue},
-      {"1e307", kStrict, 4, 1e307},
+      {"1e-0", kStrict, 0, kUntouched}, {"1e0", kStrict, 4, 1.0}, {"1e+0", kStrict, 4, 1.0}, {"1e", kStrict, 4, 1.0},
+      {"e5", kStrict, 0, kUntouched}, {"-E5", kStrict, 0, kUntouched}, {"1e2.5", kStrict, 0, kUntouched},
+      {"1e308", kStrict, 0, kUntouched}, {"1e-308", kStrict, 0, kUntouched}, {"1e307", kStrict, 4, 1e307},
       {"2.5E-3", kStrict, 4, 2.5 / 1000.0},
-      {"1e2.5", kStrict, 0, kAnyValue},
       // Signs and blanks.
-      {"", kStrict, 0, kAnyValue},
-      {"   ", kStrict, 0, kAnyValue},
+      {"", kStrict, 0, kUntouched}, {"   ", kStrict, 0, kUntouched}, {" \t 7", kStrict, 1, 7.0},
       {"\xE2\x88\x92" "5", kStrict, 1, -5.0},  // U+2212 MINUS SIGN
-      {"\xC3\xA9" "5", kStrict, 0, kAnyValue},
-      {" \t 7", kStrict, 1, 7.0},
+      {"\xC3\xA9" "5", kStrict, 0, kUntouched},
       {"\xC2\xA0" "7", kStrict, 1, 7.0},  // a no-break space is a blank
-      {"+7", kStrict, 1, 7.0},
-      {"-.5", kStrict, 2, -0.5},
+      {"+7", kStrict, 1, 7.0}, {"-.5", kStrict, 2, -0.5},
       // What may follow the number.
-      {"12 ", kStrict, 1, 12.0},
-      {"12 x", kStrict, 0, kAnyValue},
-      {"1.5x", kStrict, 0, kAnyValue},
-      {"1.5 ", kStrict, 2, 1.5},
-      {"12 x", kLenient, 1, 12.0},
-      {"12x", kLenient, 0, kAnyValue},
+      {"12 ", kStrict, 1, 12.0}, {"12 x", kStrict, 0, kUntouched}, {"1.5x", kStrict, 0, kUntouched},
+      {"1.5 ", kStrict, 2, 1.5}, {"12 x", kLenient, 1, 12.0}, {"12x", kLenient, 0, kUntouched},
       {"1.5x", kLenient, 2, 1.5},
       // Integer parts beyond 8 bytes: the 64-bit conversion, then the digit sum.
-      {"123456789", kStrict, 1, 123456789.0},
-      {"18446744073709551615", kStrict, 1, 18446744073709551615.0},
-      {"123456789 ", kStrict, 0, kAnyValue},  // the sum refuses the blank
+      {"123456789", kStrict, 1, 123456789.0}, {"18446744073709551615", kStrict, 1, 18446744073709551615.0},
+      {"123456789 ", kStrict, 0, kUntouched},  // the sum refuses the blank
   };
   for (const Case& c : cases) {
     const Parsed parsed = parse(c.text, c.flags);
@@ -131,11 +97,12 @@ TEST(RealParser, CommaSeparator) {
 }
 
 TEST(RealParser, DigitPathWhenTheFractionSwitchIsOff) {
-  FractionSwitchScope off(0);
+  const unsigned previous = KILNUTIL_str2real_use_atof(0, 0);
   EXPECT_EQ(parse("3.05").value, 3.0 + 5 / 100.0);
   EXPECT_EQ(parse("3.05").code, 2u);
   EXPECT_EQ(parse("0.123456789").value, 0.1 + 0.02 + 0.003 + 4e-4 + 5e-5 + 6e-6 + 7e-7 + 8e-8 + 9e-9);
   EXPECT_EQ(parse("12 .5").value, 12.5);  // the integer part is trimmed on this path
+  KILNUTIL_str2real_use_atof(0, previous);
 }
 
 TEST(RealParser, TextIsRestoredAfterEveryParse) {
