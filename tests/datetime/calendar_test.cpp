@@ -94,7 +94,6 @@ TEST(FieldChecks, TwoDigitYearsAndInvalidFields) {
   EXPECT_EQ(date_value(44, 1, 1), date_value(2044, 1, 1));
   EXPECT_EQ(date_value(45, 1, 1), date_value(1945, 1, 1));
   EXPECT_EQ(date_value(99, 1, 1), date_value(1999, 1, 1));
-  EXPECT_EQ(date_value(2000, 1, 1, 23, 59, 59), 2451544.0 + 86399.0 / 86400.0);
   // A refused conversion leaves its placeholder value.
   for (const SYSTEMTIME& invalid : {system_time(1900, 2, 29), system_time(2000, 1, 0), system_time(2000, 1, 1, 24),
                                     system_time(10000, 1, 1), system_time(2000, 13, 1), system_time(2000, 1, 1, 0, 0, 60)}) {
@@ -157,8 +156,7 @@ TEST(CalendarRules, DayOfYearHelpers) {
                         Case{2024, 61, 2, 1}, Case{2024, 366, 11, 31}, Case{2023, 400, 11, 31}}) {
     int month = -1, day = -1;
     KILNUTIL_get_month_and_day_from_days_of_year(c.year, c.day_of_year, &month, &day);
-    EXPECT_EQ(month, c.month) << c.year << " day " << c.day_of_year;
-    EXPECT_EQ(day, c.day) << c.year << " day " << c.day_of_year;
+    EXPECT_EQ(std::pair(month, day), std::pair(c.month, c.day)) << c.year << " day " << c.day_of_year;
   }
 }
 

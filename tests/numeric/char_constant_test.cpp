@@ -3,18 +3,20 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 namespace {
 
+// Returns the number of escapes expanded; unknown escapes, backslash-zero and a
+// trailing backslash stay as they are.
 TEST(EscapeCodes, ExpandsInPlace) {
-  char text[] = R"(a\tb\\c\x41\101\q\0)";
-  EXPECT_EQ(KILNUTIL_expand_C_escape_codes(text), 4);
-  EXPECT_STREQ(text, "a\tb\\cAA\\q\\0");
-  char quotes[] = R"(\'\"\?\n)";
-  KILNUTIL_expand_C_escape_codes(quotes);
-  EXPECT_STREQ(quotes, "'\"?\n");
-  char trailing[] = "x\\";
-  EXPECT_EQ(KILNUTIL_expand_C_escape_codes(trailing), 0);
-  EXPECT_STREQ(trailing, "x\\");
+  const struct { const char* text; int count; const char* expanded; } cases[] = {
+      {R"(a\tb\\c\x41\101\q\0)", 4, "a\tb\\cAA\\q\\0"}, {R"(\'\"\?\n)", 4, "'\"?\n"}, {"x\\", 0, "x\\"}};
+  for (const auto& c : cases) {
+    std::string text = c.text;
+    EXPECT_EQ(KILNUTIL_expand_C_escape_codes(text.data()), c.count) << c.text;
+    EXPECT_STREQ(text.c_str(), c.expanded);
+  }
 }
 
 // Both readers of a quoted character: -1 for an empty or unterminated

@@ -70,13 +70,9 @@ TEST(IntegerWithArguments, SeparatorSplitsAndTrims) {
 
 TEST(DigitTests, DigitsOnlyAndLeadingZeros) {
   EXPECT_TRUE(is_str_digits_only("0123"));
-  EXPECT_FALSE(is_str_digits_only(""));
-  EXPECT_FALSE(is_str_digits_only(nullptr));
-  EXPECT_FALSE(is_str_digits_only("12.5"));
+  for (const char* text : {"", static_cast<const char*>(nullptr), "12.5"}) EXPECT_FALSE(is_str_digits_only(text));
   EXPECT_EQ(KILNUTIL_is_str_lead_zero_numbers("007"), 1);
-  EXPECT_EQ(KILNUTIL_is_str_lead_zero_numbers("0"), 0);
-  EXPECT_EQ(KILNUTIL_is_str_lead_zero_numbers("0.5"), 0);
-  EXPECT_EQ(KILNUTIL_is_str_lead_zero_numbers("70"), 0);
+  for (const char* text : {"0", "0.5", "70"}) EXPECT_EQ(KILNUTIL_is_str_lead_zero_numbers(text), 0) << text;
 }
 
 }  // namespace

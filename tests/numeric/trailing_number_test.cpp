@@ -72,18 +72,17 @@ TEST(MissingText, TextAndBlankSelector) {
   KILNUTIL_get_missing_as_text("--");
 }
 
+// Styles 3 and 4 group with a blank and an apostrophe; unknown styles and a
+// missing output are refused without writing.
 TEST(SeparatorStyles, Table) {
-  char decimal = 'x';
-  char grouping = 'x';
+  char decimal = 'x', grouping = 'x';
   EXPECT_EQ(get_numeric_separators(3, &decimal, &grouping), 1);
-  EXPECT_EQ(decimal, ',');
-  EXPECT_EQ(grouping, ' ');
+  EXPECT_EQ(std::pair(decimal, grouping), std::pair(',', ' '));
   EXPECT_EQ(get_numeric_separators(4, &decimal, &grouping), 1);
   EXPECT_EQ(grouping, '\'');
   decimal = grouping = 'x';
-  EXPECT_EQ(get_numeric_separators(6, &decimal, &grouping), 0);
-  EXPECT_EQ(get_numeric_separators(0, &decimal, &grouping), 0);
-  EXPECT_EQ(decimal, 'x');
+  for (int unknown : {6, 0}) EXPECT_EQ(get_numeric_separators(unknown, &decimal, &grouping), 0);
+  EXPECT_EQ(std::pair(decimal, grouping), std::pair('x', 'x'));
   EXPECT_EQ(get_numeric_separators(1, nullptr, &grouping), 0);
 }
 
