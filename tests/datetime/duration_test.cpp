@@ -22,12 +22,14 @@ Fields extracted(double value, int decimals) {
   return {t.negative, t.days, t.hours, t.minutes, t.seconds, t.milliseconds};
 }
 
-TEST(ExtractTime, NegativeValues) {
+TEST(ExtractTime, SignedTotals) {
   stTime t{};
   EXPECT_EQ(extract_time(-1.75, &t, 3), 0);
   EXPECT_EQ(extracted(-1.75, 3), Fields(1, 1, 18, 0, 0, 0.0));
   EXPECT_EQ(std::tuple(t.GetHours(), t.GetMinutes(), t.GetSeconds()), std::tuple(-42, -2520, -151200));
   EXPECT_EQ(t.GetMilliSecs(), -151200000.0);
+  extract_time(1.23456 / 86400, &t, 2);
+  EXPECT_EQ(t.GetMilliSecs(), 1230.0);
 }
 
 // Rounding to the given decimals of a second carries into the day; -1 does
@@ -45,31 +47,26 @@ TEST(ExtractTime, RoundingToDecimals) {
   kiln::datetime::set_keep_rounded_midnight_as_2400(false);
   EXPECT_EQ(kept, Fields(0, 5, 24, 0, 0, 0.0));
 
-  EXPECT_EQ(std::get<4>(extracted(1.23456 / 86400, 4)), 1);
+  EXPECT_EQ(extracted(1.23456 / 86400, 2), Fields(0, 0, 0, 0, 1, 230.0));
   EXPECT_NEAR(std::get<5>(extracted(1.23456 / 86400, 4)), 234.6, 1e-9);
-  stTime t{};
-  extract_time(1.23456 / 86400, &t, 2);
-  EXPECT_EQ(t.milliseconds, 230.0);
-  EXPECT_EQ(t.GetMilliSecs(), 1230.0);
 }
 
+// Whole days snap first, then the rest in the unit: 0.99999 days (0.864 s
+// short of a day) is no day, 0.999999 days (0.0864 s short) is one.
 TEST(Differences, SnappingWithinAQuarterSecond) {
-  const SYSTEMTIME start = system_time(2021, 3, 1);
-  // 0.99999 days is 0.864 s short of a day; 0.999999 days 0.0864 s short.
+  const SYSTEMTIME start = system_time(2021, 3, 1), later = system_time(2021, 3, 3, 6, 30);
   const SYSTEMTIME short_by_864ms = system_time(2021, 3, 1, 23, 59, 59, 136);
   const SYSTEMTIME short_by_86ms = system_time(2021, 3, 1, 23, 59, 59, 914);
-  EXPECT_EQ(KILNUTIL_GetDifferenceInDays(&start, &short_by_864ms), 0);
-  EXPECT_EQ(KILNUTIL_GetDifferenceInDays(&start, &short_by_86ms), 1);
-  EXPECT_EQ(KILNUTIL_GetDifferenceInDays(&short_by_86ms, &start), -1);
-  EXPECT_EQ(KILNUTIL_GetDifferenceInHours(&start, &short_by_864ms), 23);
-  EXPECT_EQ(KILNUTIL_GetDifferenceInSeconds(&start, &short_by_864ms), 86399);
-
-  const SYSTEMTIME later = system_time(2021, 3, 3, 6, 30);
-  EXPECT_EQ(KILNUTIL_GetDifferenceInDays(&start, &later), 2);
-  EXPECT_EQ(KILNUTIL_GetDifferenceInHours(&start, &later), 54);
-  EXPECT_EQ(KILNUTIL_GetDifferenceInMinutes(&start, &later), 54 * 60 + 30);
-  EXPECT_EQ(KILNUTIL_GetDifferenceInMinutes(&later, &start), -(54 * 60 + 30));
-  EXPECT_EQ(KILNUTIL_GetDifferenceInSeconds(&start, &later), (54 * 60 + 30) * 60);
+  using Units = std::tuple<int, int, int, int>;  // days, hours, minutes, seconds
+  const auto differences = [](const SYSTEMTIME& first, const SYSTEMTIME& second) {
+    return Units(KILNUTIL_GetDifferenceInDays(&first, &second), KILNUTIL_GetDifferenceInHours(&first, &second),
+                 KILNUTIL_GetDifferenceInMinutes(&first, &second), KILNUTIL_GetDifferenceInSeconds(&first, &second));
+  };
+  EXPECT_EQ(differences(start, short_by_864ms), Units(0, 23, 1439, 86399));
+  EXPECT_EQ(differences(start, short_by_86ms), Units(1, 24, 1440, 86400));
+  EXPECT_EQ(differences(short_by_86ms, start), Units(-1, -24, -1440, -86400));
+  EXPECT_EQ(differences(start, later), Units(2, 54, 3270, 196200));
+  EXPECT_EQ(differences(later, start), Units(-2, -54, -3270, -196200));
   EXPECT_EQ(KILNUTIL_GetDifferenceInDays(nullptr, &later), 0);
 }
 

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace {
 
 using namespace date_test;
@@ -33,10 +35,10 @@ TEST(IncrementDate, MonthsClampTheDayAndKeepTheTime) {
 TEST(IncrementDate, OneCarryOnlyAndRefusals) {
   const double january = date_value(2021, 1, 10);
   double value = january;
-  EXPECT_FALSE(increment_date_val(&value, 'm', 25));  // 0 + 25 - 12 is still beyond December
-  EXPECT_FALSE(increment_date_val(&value, 'q', 9));
-  EXPECT_FALSE(increment_date_val(&value, 'm', 0));
-  EXPECT_FALSE(increment_date_val(&value, 'w', 1));
+  // Months and quarters carry into the year once only: 0 + 25 - 12 is still beyond December.
+  for (const auto& [unit, count] : {std::pair{'m', 25}, {'q', 9}, {'m', 0}, {'w', 1}}) {
+    EXPECT_FALSE(increment_date_val(&value, unit, count)) << count << unit;
+  }
   EXPECT_FALSE(increment_date_val(nullptr, 'd', 1));
   EXPECT_EQ(value, january);
   ASSERT_TRUE(increment_date_val(&value, 'm', 13));

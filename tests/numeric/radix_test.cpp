@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
 #include <utility>
 
 namespace {
@@ -29,9 +30,7 @@ TEST(Radix, SixtyFourBitWholeText) {
   EXPECT_EQ(KILNUTIL_hexstr2int64("0xFFFFFFFFFFFFFFFF", &value), 0);
   EXPECT_EQ(value, 0xFFFFFFFFFFFFFFFFull);
   EXPECT_EQ(KILNUTIL_hexstr2int64("ff", nullptr), -1);
-  EXPECT_EQ(is_hex_string(""), 1);
-  EXPECT_EQ(is_hex_string("09afAF"), 1);
-  EXPECT_EQ(is_hex_string("0x1"), 0);
+  EXPECT_EQ(std::tuple(is_hex_string(""), is_hex_string("09afAF"), is_hex_string("0x1")), std::tuple(1, 1, 0));
 }
 
 TEST(HexDecConvert, HexToNumber) {
