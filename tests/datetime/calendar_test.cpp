@@ -95,8 +95,9 @@ TEST(FieldChecks, TwoDigitYearsAndInvalidFields) {
   EXPECT_EQ(date_value(45, 1, 1), date_value(1945, 1, 1));
   EXPECT_EQ(date_value(99, 1, 1), date_value(1999, 1, 1));
   // A refused conversion leaves its placeholder value.
-  for (const SYSTEMTIME& invalid : {system_time(1900, 2, 29), system_time(2000, 1, 0), system_time(2000, 1, 1, 24),
-                                    system_time(10000, 1, 1), system_time(2000, 13, 1), system_time(2000, 1, 1, 0, 0, 60)}) {
+  for (const SYSTEMTIME& invalid : {system_time(1900, 2, 29), system_time(2000, 1, 0), system_time(2000, 13, 1),
+                                    system_time(10000, 1, 1), system_time(2000, 1, 1, 24),
+                                    system_time(2000, 1, 1, 0, 0, 60)}) {
     double value = 0;
     EXPECT_EQ(SystemTimeToJulianDate(&value, &invalid, nullptr), 0) << invalid.wYear << "-" << invalid.wMonth;
     EXPECT_EQ(value, 2451323.4653704);
@@ -142,7 +143,9 @@ TEST(CalendarRules, LeapYearsAndMonthLengths) {
   }
   const struct { int month, year, days; } lengths[] = {
       {1, 0, 28}, {1, -1, 29}, {1, 2000, 29}, {1, 1900, 28}, {12, 2000, 0}, {3, 2000, 30}, {11, -5, 31}};
-  for (const auto& c : lengths) EXPECT_EQ(KILNUTIL_GetNumDaysInMonth(c.month, c.year), c.days) << c.month << " " << c.year;
+  for (const auto& c : lengths) {
+    EXPECT_EQ(KILNUTIL_GetNumDaysInMonth(c.month, c.year), c.days) << c.month << " " << c.year;
+  }
 }
 
 TEST(CalendarRules, DayOfYearHelpers) {

@@ -91,7 +91,8 @@ TEST(TimeRecord, CheckAndReset) {
   EXPECT_EQ(DateTime_CheckDate(&bad, 0), 0);
   KilnTm now{};
   EXPECT_EQ(DateTime_CheckDate(&now, 1), 1);
-  EXPECT_EQ(std::tuple(bad.tm_year, bad.tm_mon, bad.tm_mday, bad.tm_sec), std::tuple(now.tm_year, now.tm_mon, now.tm_mday, 1));
+  EXPECT_EQ(std::tuple(bad.tm_year, bad.tm_mon, bad.tm_mday, bad.tm_sec),
+            std::tuple(now.tm_year, now.tm_mon, now.tm_mday, 1));
   EXPECT_GE(now.tm_year, 2024);
 
   DateTime_ResetTimeOfDay(&now);

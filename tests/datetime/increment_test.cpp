@@ -35,7 +35,8 @@ TEST(IncrementDate, MonthsClampTheDayAndKeepTheTime) {
 TEST(IncrementDate, OneCarryOnlyAndRefusals) {
   const double january = date_value(2021, 1, 10);
   double value = january;
-  // Months and quarters carry into the year once only: 0 + 25 - 12 is still beyond December.
+  // Refused, the value kept: more than one carry into the year (0 + 25 - 12 is
+  // still beyond December), a zero count, an unknown unit.
   for (const auto& [unit, count] : {std::pair{'m', 25}, {'q', 9}, {'m', 0}, {'w', 1}}) {
     EXPECT_FALSE(increment_date_val(&value, unit, count)) << count << unit;
   }

@@ -22,12 +22,8 @@ TEST(EscapeCodes, ExpandsInPlace) {
 // Both readers of a quoted character: -1 for an empty or unterminated
 // constant, -2 for more than one character, a signed char's value otherwise.
 TEST(CharConstants, AsciiCharAndSpecialInteger) {
-  struct Case {
-    const char* text;
-    int code;
-    int value;
-    int error;  // of the special-integer reader, which leaves it alone on success
-  };
+  // error: of the special-integer reader, which leaves it alone on success.
+  struct Case { const char* text; int code, value, error; };
   const Case cases[] = {
       {"'a'", 1, 'a', 0},   {R"('\n')", 1, 10, 0}, {R"('\0')", 1, 0, 0},
       {"'ab'", 1, -2, 0},   {"''", 1, -1, -1},     {"'a", 1, -1, -1},

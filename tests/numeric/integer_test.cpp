@@ -10,11 +10,7 @@ namespace {
 
 constexpr long long kUnchanged = 99;  // the value a refused text leaves
 
-struct IntegerCase {
-  const char* text;
-  int code;
-  long long value;
-};
+struct IntegerCase { const char* text; int code; long long value; };
 
 TEST(IntegerRule, ZerosSignsAndDigits) {
   const IntegerCase cases[] = {

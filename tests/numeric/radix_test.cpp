@@ -52,11 +52,7 @@ TEST(HexDecConvert, HexToNumber) {
 }
 
 TEST(HexDecConvert, NumberToHex) {
-  const struct {
-    double number;
-    int digits, code;
-    const char* hex;
-  } cases[] = {
+  const struct { double number; int digits, code; const char* hex; } cases[] = {
       {-1, 8, 2, "FFFFFFFFFFFFFFFF"}, {255, 4, 0, "00FF"}, {-16, 20, 0, "FFFFFFFFFFFFFFFFFFF0"},
       {255.9, 0, 0, "FF"}, {9223372036854775808.0, 65, 0, "8000000000000000"}, {KILNUTIL_NANUM, 4, 1, ""},
   };

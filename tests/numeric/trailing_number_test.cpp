@@ -23,13 +23,7 @@ TEST(ExponentTest, SignAndDigitAfterTheMark) {
 // buffer); -2 takes every digit, and -1 leaves the number's leading zeros
 // in the prefix.
 TEST(EndNumber, Modes) {
-  const struct {
-    const char* text;
-    int mode;
-    int value;
-    const char* prefix;
-    std::ptrdiff_t start;
-  } cases[] = {
+  const struct { const char* text; int mode, value; const char* prefix; std::ptrdiff_t start; } cases[] = {
       {"Book123456789", -1, 23456789, "Book1", 5}, {"Book123456789", 0, 23456789, "Book1", 5},
       {"Book123456789", 20, 23456789, "Book1", 5}, {"Book123456789", -2, 123456789, "Book", 4},
       {"a007", -1, 7, "a00", 3},                   {"a000", -1, 0, "a00", 3},
