@@ -2,15 +2,23 @@
 // independent civil-date count, reference dates of other calendars, the
 // field checks and the rounding of the time of day.
 #include "date_helpers.h"
-#include "datetime/calendar.h"
 
 #include <kilnutil/datetime.h>
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+#include <utility>
+
 namespace {
 
 using namespace date_test;
+
+using Fields = std::tuple<int, int, int, int, int, int, int>;
+
+Fields fields_of(const SYSTEMTIME& t) {
+  return {t.wYear, t.wMonth, t.wDay, t.wHour, t.wMinute, t.wSecond, t.wMilliseconds};
+}
 
 TEST(CalendarRoundTrip, EveryDayFrom0100To9999) {
   const long long first = days_from_civil(100, 1, 1);
@@ -27,9 +35,7 @@ TEST(CalendarRoundTrip, EveryDayFrom0100To9999) {
     if (value != expected && ++failures < 5) ADD_FAILURE() << y << "-" << m << "-" << d;
     SYSTEMTIME out{};
     ASSERT_EQ(JulianDateToSystemTime(&value, &out, nullptr, 0), 1);
-    if ((out.wYear != y || out.wMonth != m || out.wDay != d || out.wHour != 13 || out.wMinute != 5 ||
-         out.wSecond != 7 || out.wMilliseconds != 250) &&
-        ++failures < 5) {
+    if (fields_of(out) != Fields(y, m, d, 13, 5, 7, 250) && ++failures < 5) {
       ADD_FAILURE() << y << "-" << m << "-" << d << " came back as " << out.wYear << "-" << out.wMonth << "-"
                     << out.wDay << " " << out.wMilliseconds;
     }
@@ -49,80 +55,58 @@ TEST(CalendarRoundTrip, EveryDayFrom0100To9999) {
   EXPECT_EQ(failures, 0);
 }
 
+// 0099-12-31 is admitted on the way out only; a refused value leaves the
+// record untouched.
 TEST(CalendarRange, BoundsOfTheSerialDays) {
   SYSTEMTIME out{};
-  double value = 2415018.0 - 657435;  // 0099-12-31, admitted on the way out only
+  double value = 2415018.0 - 657435;
   ASSERT_EQ(JulianDateToSystemTime(&value, &out, nullptr, 3), 1);
-  EXPECT_EQ(out.wYear, 99);
-  EXPECT_EQ(out.wMonth, 12);
-  EXPECT_EQ(out.wDay, 31);
+  EXPECT_EQ(fields_of(out), Fields(99, 12, 31, 0, 0, 0, 0));
   value -= 1e-9;
   EXPECT_EQ(JulianDateToSystemTime(&value, &out, nullptr, 3), 0);
   value = 2415018.0 + 2958465.999;
   ASSERT_EQ(JulianDateToSystemTime(&value, &out, nullptr, 3), 1);
-  EXPECT_EQ(out.wYear, 9999);
+  EXPECT_EQ(fields_of(out), Fields(9999, 12, 31, 23, 58, 33, 600));
   value = 2415018.0 + 2958466;
   out.wYear = 1;
   EXPECT_EQ(JulianDateToSystemTime(&value, &out, nullptr, 3), 0);
-  EXPECT_EQ(out.wYear, 1);  // untouched
+  EXPECT_EQ(out.wYear, 1);
 }
 
-TEST(ReferenceDates, DefaultSystem) {
-  EXPECT_EQ(date_value(1899, 12, 30), 2415018.0);
-  EXPECT_EQ(date_value(2000, 1, 1, 12), 2451544.5);
-  EXPECT_EQ(date_value(2000, 1, 1), 2451544.0);
-}
-
-TEST(ReferenceDates, SpreadsheetSerials) {
-  DateSystemScope serial(101);
-  EXPECT_EQ(date_value(1899, 12, 30), 0.0);
-  EXPECT_EQ(date_value(1900, 3, 1), 61.0);
-  EXPECT_EQ(date_value(2000, 1, 1), 36526.0);
-  EXPECT_EQ(date_value(2024, 2, 29, 18), 45351.75);
-  DateTime_DateSys(1, 1904);
-  EXPECT_EQ(date_value(1904, 1, 1), 0.0);
-  EXPECT_EQ(date_value(2000, 1, 1), 35064.0);
-}
-
-TEST(ReferenceDates, AstronomicalJulianDates) {
-  DateSystemScope julian(1);
-  EXPECT_EQ(date_value(1899, 12, 30), 2415018.5);
-  EXPECT_EQ(date_value(2000, 1, 1, 12), 2451545.0);  // J2000.0
-  EXPECT_EQ(date_value(1858, 11, 17), 2400000.5);    // modified Julian day 0
-  EXPECT_EQ(date_value(1970, 1, 1), 2440587.5);
+// Known dates in each date system: the default offset, spreadsheet serials
+// from 1899-12-30 and 1904-01-01, and astronomical Julian dates.
+TEST(ReferenceDates, EverySystem) {
+  const struct { int system, y, m, d, h; double expected; } cases[] = {
+      {0, 1899, 12, 30, 0, 2415018.0}, {0, 2000, 1, 1, 12, 2451544.5}, {0, 2000, 1, 1, 0, 2451544.0},
+      {101, 1899, 12, 30, 0, 0.0},     {101, 1900, 3, 1, 0, 61.0},     {101, 2000, 1, 1, 0, 36526.0},
+      {101, 2024, 2, 29, 18, 45351.75}, {1904, 1904, 1, 1, 0, 0.0},    {1904, 2000, 1, 1, 0, 35064.0},
+      {1, 1899, 12, 30, 0, 2415018.5}, {1, 2000, 1, 1, 12, 2451545.0},  // J2000.0
+      {1, 1858, 11, 17, 0, 2400000.5},  // modified Julian day 0
+      {1, 1970, 1, 1, 0, 2440587.5},
+  };
+  for (const auto& c : cases) {
+    DateSystemScope system(c.system);
+    EXPECT_EQ(date_value(c.y, c.m, c.d, c.h), c.expected) << c.y << "-" << c.m << "-" << c.d << " in " << c.system;
+  }
 }
 
 TEST(FieldChecks, TwoDigitYearsAndInvalidFields) {
   EXPECT_EQ(date_value(44, 1, 1), date_value(2044, 1, 1));
   EXPECT_EQ(date_value(45, 1, 1), date_value(1945, 1, 1));
   EXPECT_EQ(date_value(99, 1, 1), date_value(1999, 1, 1));
-  EXPECT_NE(date_value(2000, 2, 29), -1.0);
-  EXPECT_EQ(date_value(2000, 1, 1, 23, 59, 59), 2451544.0 + 86399.0 / 86400.0);
-
-  using namespace kiln::datetime;
-  double value = 0;
-  CalendarFields f;
-  f.year = 1900, f.month = 2, f.day = 29;
-  EXPECT_EQ(fields_to_value(f, kActiveSystem, &value), kDayBeyondMonth);
-  f.day = 0;
-  EXPECT_EQ(fields_to_value(f, kActiveSystem, &value), kFieldsInvalid);
-  f.day = 1, f.hour = 24;
-  EXPECT_EQ(fields_to_value(f, kActiveSystem, &value), kFieldsInvalid);
-  f.hour = 0, f.year = 10000;
-  EXPECT_EQ(fields_to_value(f, kActiveSystem, &value), kFieldsInvalid);
-  f.year = 2000, f.month = 13;
-  EXPECT_EQ(fields_to_value(f, kActiveSystem, &value), kFieldsInvalid);
-  f.month = 1, f.second = 60;
-  EXPECT_EQ(fields_to_value(f, kActiveSystem, &value), kFieldsInvalid);
-
-  const SYSTEMTIME leap = system_time(1900, 2, 29);
-  EXPECT_EQ(SystemTimeToJulianDate(&value, &leap, nullptr), 0);
-  EXPECT_EQ(value, 2451323.4653704);
+  // A refused conversion leaves its placeholder value.
+  for (const SYSTEMTIME& invalid : {system_time(1900, 2, 29), system_time(2000, 1, 0), system_time(2000, 13, 1),
+                                    system_time(10000, 1, 1), system_time(2000, 1, 1, 24),
+                                    system_time(2000, 1, 1, 0, 0, 60)}) {
+    double value = 0;
+    EXPECT_EQ(SystemTimeToJulianDate(&value, &invalid, nullptr), 0) << invalid.wYear << "-" << invalid.wMonth;
+    EXPECT_EQ(value, 2451323.4653704);
+  }
 }
 
 TEST(SystemTimeConversion, MillisecondsWithFractions) {
   const SYSTEMTIME t = system_time(2000, 1, 1, 0, 0, 1, 999);
-  const double fraction = 0.25;
+  const double fraction = 0.25;  // replaces the record's milliseconds
   double value = 0;
   ASSERT_EQ(SystemTimeToJulianDate(&value, &t, &fraction), 1);
   EXPECT_DOUBLE_EQ(value, 2451544.0 + 1.00025 / 86400.0);
@@ -133,38 +117,35 @@ TEST(SystemTimeConversion, MillisecondsWithFractions) {
   double milliseconds = 0;
   value = 36526.0 + 1.23456 / 86400.0;
   ASSERT_EQ(JulianDateToSystemTime(&value, &out, &milliseconds, 5), 1);
-  EXPECT_EQ(out.wSecond, 1);
-  EXPECT_EQ(out.wMilliseconds, 234);
+  EXPECT_EQ(fields_of(out), Fields(2000, 1, 1, 0, 0, 1, 234));
   EXPECT_NEAR(milliseconds, 234.56, 1e-9);
   ASSERT_EQ(JulianDateToSystemTime(&value, &out, &milliseconds, 1), 1);
   EXPECT_EQ(milliseconds, 200.0);
 }
 
+// Rounding to the asked decimals carries into the next day; without the
+// milliseconds argument whole milliseconds are kept.
 TEST(SystemTimeConversion, RoundingCarriesIntoTheNextDay) {
   double value = 2451544.0 + (86399.6) / 86400.0;  // 2000-01-01 23:59:59.6
   SYSTEMTIME out{};
   double milliseconds = 0;
   ASSERT_EQ(JulianDateToSystemTime(&value, &out, &milliseconds, 0), 1);
-  EXPECT_EQ(out.wDay, 2);
-  EXPECT_EQ(out.wHour, 0);
-  EXPECT_EQ(out.wSecond, 0);
-  ASSERT_EQ(JulianDateToSystemTime(&value, &out, nullptr, 0), 1);  // whole milliseconds then
-  EXPECT_EQ(out.wDay, 1);
-  EXPECT_EQ(out.wMilliseconds, 600);
+  EXPECT_EQ(fields_of(out), Fields(2000, 1, 2, 0, 0, 0, 0));
+  ASSERT_EQ(JulianDateToSystemTime(&value, &out, nullptr, 0), 1);
+  EXPECT_EQ(fields_of(out), Fields(2000, 1, 1, 23, 59, 59, 600));
 }
 
+// Month lengths take a zero-based month; for February a negative year says
+// "leap" and year 0 "common"; month 12 does not exist.
 TEST(CalendarRules, LeapYearsAndMonthLengths) {
-  EXPECT_EQ(KILNUTIL_IsLeapYear(1900), 0);
-  EXPECT_EQ(KILNUTIL_IsLeapYear(2000), 1);
-  EXPECT_EQ(KILNUTIL_IsLeapYear(2024), 1);
-  EXPECT_EQ(KILNUTIL_IsLeapYear(2023), 0);
-  EXPECT_EQ(KILNUTIL_GetNumDaysInMonth(1, 0), 28);
-  EXPECT_EQ(KILNUTIL_GetNumDaysInMonth(1, -1), 29);
-  EXPECT_EQ(KILNUTIL_GetNumDaysInMonth(1, 2000), 29);
-  EXPECT_EQ(KILNUTIL_GetNumDaysInMonth(1, 1900), 28);
-  EXPECT_EQ(KILNUTIL_GetNumDaysInMonth(12, 2000), 0);
-  EXPECT_EQ(KILNUTIL_GetNumDaysInMonth(3, 2000), 30);
-  EXPECT_EQ(KILNUTIL_GetNumDaysInMonth(11, -5), 31);
+  for (const auto& [year, leap] : {std::pair{1900, 0}, {2000, 1}, {2024, 1}, {2023, 0}}) {
+    EXPECT_EQ(KILNUTIL_IsLeapYear(static_cast<unsigned short>(year)), leap) << year;
+  }
+  const struct { int month, year, days; } lengths[] = {
+      {1, 0, 28}, {1, -1, 29}, {1, 2000, 29}, {1, 1900, 28}, {12, 2000, 0}, {3, 2000, 30}, {11, -5, 31}};
+  for (const auto& c : lengths) {
+    EXPECT_EQ(KILNUTIL_GetNumDaysInMonth(c.month, c.year), c.days) << c.month << " " << c.year;
+  }
 }
 
 TEST(CalendarRules, DayOfYearHelpers) {
@@ -173,24 +154,19 @@ TEST(CalendarRules, DayOfYearHelpers) {
   EXPECT_EQ(KILNUTIL_GetDayOfYearFromMonthAndDayOfMonth(2024, 1, 5), 34);
   EXPECT_EQ(KILNUTIL_GetDayOfYearFromMonthAndDayOfMonth(2023, 3, 1), 91);  // 30 x 3 + 1
 
-  struct Case {
-    int year, day_of_year, month, day;
-  };
+  struct Case { int year, day_of_year, month, day; };
   for (const Case& c : {Case{2023, 0, 0, 1}, Case{2023, 31, 0, 31}, Case{2024, 60, 1, 29}, Case{2023, 60, 2, 1},
                         Case{2024, 61, 2, 1}, Case{2024, 366, 11, 31}, Case{2023, 400, 11, 31}}) {
     int month = -1, day = -1;
     KILNUTIL_get_month_and_day_from_days_of_year(c.year, c.day_of_year, &month, &day);
-    EXPECT_EQ(month, c.month) << c.year << " day " << c.day_of_year;
-    EXPECT_EQ(day, c.day) << c.year << " day " << c.day_of_year;
+    EXPECT_EQ(std::pair(month, day), std::pair(c.month, c.day)) << c.year << " day " << c.day_of_year;
   }
 }
 
-TEST(JulianDays, RangeTest) {
-  EXPECT_EQ(is_JulianDays(2415019.0), 0);
-  EXPECT_EQ(is_JulianDays(2415019.5), 1);
-  EXPECT_EQ(is_JulianDays(2473458.9), 1);
-  EXPECT_EQ(is_JulianDays(2473459.0), 0);
-  EXPECT_EQ(is_JulianDays(2024), 0);
+TEST(JulianDays, RangeTest) {  // both bounds excluded
+  for (const auto& [value, inside] : {std::pair{2415019.0, 0}, {2415019.5, 1}, {2473458.9, 1}, {2473459.0, 0}}) {
+    EXPECT_EQ(is_JulianDays(value), inside) << value;
+  }
 }
 
 }  // namespace

@@ -21,15 +21,8 @@ inline long long days_from_civil(long long y, unsigned m, unsigned d) {
 inline long long serial_of(int y, int m, int d) { return days_from_civil(y, m, d) - days_from_civil(1899, 12, 30); }
 
 inline SYSTEMTIME system_time(int y, int m, int d, int h = 0, int mi = 0, int s = 0, int ms = 0) {
-  SYSTEMTIME t{};
-  t.wYear = static_cast<unsigned short>(y);
-  t.wMonth = static_cast<unsigned short>(m);
-  t.wDay = static_cast<unsigned short>(d);
-  t.wHour = static_cast<unsigned short>(h);
-  t.wMinute = static_cast<unsigned short>(mi);
-  t.wSecond = static_cast<unsigned short>(s);
-  t.wMilliseconds = static_cast<unsigned short>(ms);
-  return t;
+  const auto field = [](int v) { return static_cast<unsigned short>(v); };
+  return SYSTEMTIME{field(y), field(m), 0, field(d), field(h), field(mi), field(s), field(ms)};
 }
 
 // The date value of a date and time in the active system (asserting success

@@ -8,45 +8,39 @@
 
 namespace {
 
+constexpr long long kUnchanged = 99;  // the value a refused text leaves
+
+struct IntegerCase { const char* text; int code; long long value; };
+
 TEST(IntegerRule, ZerosSignsAndDigits) {
-  unsigned value = 99;
-  EXPECT_EQ(is_str_numeric_integer("0", &value), 1);
-  EXPECT_EQ(value, 0u);
-  EXPECT_EQ(is_str_numeric_integer("00", &value), 1);
-  EXPECT_EQ(is_str_numeric_integer("+0", &value), 1);
-  EXPECT_EQ(is_str_numeric_integer("+", &value), 1);
-  value = 99;
-  EXPECT_EQ(is_str_numeric_integer("-0", &value), 0);
-  EXPECT_EQ(is_str_numeric_integer("-00", &value), 0);
-  EXPECT_EQ(value, 99u);
-  EXPECT_EQ(is_str_numeric_integer("", &value), 0);
-  EXPECT_EQ(is_str_numeric_integer(" 5", &value), 0);  // not trimmed
-  EXPECT_EQ(is_str_numeric_integer("5a", &value), 0);
-  EXPECT_EQ(is_str_numeric_integer("-5", &value), 1);
-  EXPECT_EQ(value, 4294967291u);
-  EXPECT_EQ(is_str_numeric_integer("99999999999", &value), 1);
-  EXPECT_EQ(value, 4294967295u);  // saturated
-  EXPECT_EQ(is_str_numeric_integer("++5", &value), 0);
+  const IntegerCase cases[] = {
+      {"0", 1, 0}, {"00", 1, 0}, {"+0", 1, 0}, {"+", 1, 0},
+      {"-0", 0, kUnchanged}, {"-00", 0, kUnchanged}, {"", 0, kUnchanged},
+      {" 5", 0, kUnchanged},  // not trimmed
+      {"5a", 0, kUnchanged}, {"++5", 0, kUnchanged}, {"-5", 1, 4294967291},
+      {"99999999999", 1, 4294967295},  // saturated
+  };
+  for (const auto& c : cases) {
+    unsigned value = kUnchanged;
+    EXPECT_EQ(is_str_numeric_integer(c.text, &value), c.code) << '"' << c.text << '"';
+    EXPECT_EQ(value, c.value) << '"' << c.text << '"';
+  }
 }
 
+// The trimmed parser wraps to 32 bits and refuses texts of 40 bytes or more.
 TEST(IntegerParser, TrimsAndWraps) {
-  int value = 7;
-  EXPECT_EQ(KILNUTIL_cvtstr2int("+", &value), 1);
-  EXPECT_EQ(value, 0);
-  value = 7;
-  EXPECT_EQ(KILNUTIL_cvtstr2int("-0", &value), 0);
-  EXPECT_EQ(value, 7);
-  EXPECT_EQ(KILNUTIL_cvtstr2int("99999999999", &value), 1);
-  EXPECT_EQ(value, -1);
-  EXPECT_EQ(KILNUTIL_cvtstr2int("3000000000", &value), 1);
-  EXPECT_EQ(value, -1294967296);
-  EXPECT_EQ(KILNUTIL_cvtstr2int("  42\t", &value), 1);
-  EXPECT_EQ(value, 42);
-  EXPECT_EQ(KILNUTIL_cvtstr2int("   ", &value), 1);
-  EXPECT_EQ(value, 0);
-  EXPECT_EQ(KILNUTIL_cvtstr2int(std::string(39, ' ').append("").c_str(), &value), 1);
-  EXPECT_EQ(KILNUTIL_cvtstr2int((std::string(38, ' ') + "12").c_str(), &value), 0);  // 40 bytes
-  EXPECT_EQ(KILNUTIL_cvtstr2int("4 2", &value), 0);
+  const std::string blanks_39(39, ' ');
+  const std::string number_40 = std::string(38, ' ') + "12";
+  const IntegerCase cases[] = {
+      {"+", 1, 0}, {"-0", 0, kUnchanged}, {"99999999999", 1, -1}, {"3000000000", 1, -1294967296},
+      {"  42\t", 1, 42}, {"   ", 1, 0}, {blanks_39.c_str(), 1, 0}, {number_40.c_str(), 0, kUnchanged},
+      {"4 2", 0, kUnchanged},
+  };
+  for (const auto& c : cases) {
+    int value = kUnchanged;
+    EXPECT_EQ(KILNUTIL_cvtstr2int(c.text, &value), c.code) << '"' << c.text << '"';
+    EXPECT_EQ(value, c.value) << '"' << c.text << '"';
+  }
   EXPECT_EQ(KILNUTIL_str2int("-12"), -12);
   EXPECT_EQ(KILNUTIL_str2int("x"), 0);
 }
@@ -72,13 +66,9 @@ TEST(IntegerWithArguments, SeparatorSplitsAndTrims) {
 
 TEST(DigitTests, DigitsOnlyAndLeadingZeros) {
   EXPECT_TRUE(is_str_digits_only("0123"));
-  EXPECT_FALSE(is_str_digits_only(""));
-  EXPECT_FALSE(is_str_digits_only(nullptr));
-  EXPECT_FALSE(is_str_digits_only("12.5"));
+  for (const char* text : {"", static_cast<const char*>(nullptr), "12.5"}) EXPECT_FALSE(is_str_digits_only(text));
   EXPECT_EQ(KILNUTIL_is_str_lead_zero_numbers("007"), 1);
-  EXPECT_EQ(KILNUTIL_is_str_lead_zero_numbers("0"), 0);
-  EXPECT_EQ(KILNUTIL_is_str_lead_zero_numbers("0.5"), 0);
-  EXPECT_EQ(KILNUTIL_is_str_lead_zero_numbers("70"), 0);
+  for (const char* text : {"0", "0.5", "70"}) EXPECT_EQ(KILNUTIL_is_str_lead_zero_numbers(text), 0) << text;
 }
 
 }  // namespace

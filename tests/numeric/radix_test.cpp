@@ -5,17 +5,18 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+#include <utility>
+
 namespace {
 
+// Leading blanks and "0x" skipped, saturation at 2^32 - 1, a minus sign
+// negating in 32 bits, parsing up to the first non-digit.
 TEST(Radix, ThirtyTwoBitRuntimeRules) {
-  EXPECT_EQ(KILNUTIL_hexstr2int("ff"), 255u);
-  EXPECT_EQ(KILNUTIL_hexstr2int("  0x1Fzz"), 31u);
-  EXPECT_EQ(KILNUTIL_hexstr2int("123456789"), 4294967295u);  // saturates
-  EXPECT_EQ(KILNUTIL_hexstr2int("-1"), 4294967295u);         // negates in 32 bits
-  EXPECT_EQ(KILNUTIL_hexstr2int("-10"), 4294967280u);
-  EXPECT_EQ(KILNUTIL_hexstr2int("-123456789"), 4294967295u);
-  EXPECT_EQ(KILNUTIL_hexstr2int("0x"), 0u);
-  EXPECT_EQ(KILNUTIL_hexstr2int("g"), 0u);
+  const std::pair<const char*, unsigned> hex_cases[] = {
+      {"ff", 255u},         {"  0x1Fzz", 31u},           {"123456789", 4294967295u}, {"-1", 4294967295u},
+      {"-10", 4294967280u}, {"-123456789", 4294967295u}, {"0x", 0u},                 {"g", 0u}};
+  for (const auto& [text, value] : hex_cases) EXPECT_EQ(KILNUTIL_hexstr2int(text), value) << text;
   EXPECT_EQ(Hex2Dec("7fffffff"), 2147483647u);
   EXPECT_EQ(KILNUTIL_binstr2int("1012"), 5u);
   EXPECT_EQ(KILNUTIL_binstr2int("-1"), 4294967295u);
@@ -29,9 +30,7 @@ TEST(Radix, SixtyFourBitWholeText) {
   EXPECT_EQ(KILNUTIL_hexstr2int64("0xFFFFFFFFFFFFFFFF", &value), 0);
   EXPECT_EQ(value, 0xFFFFFFFFFFFFFFFFull);
   EXPECT_EQ(KILNUTIL_hexstr2int64("ff", nullptr), -1);
-  EXPECT_EQ(is_hex_string(""), 1);
-  EXPECT_EQ(is_hex_string("09afAF"), 1);
-  EXPECT_EQ(is_hex_string("0x1"), 0);
+  EXPECT_EQ(std::tuple(is_hex_string(""), is_hex_string("09afAF"), is_hex_string("0x1")), std::tuple(1, 1, 0));
 }
 
 TEST(HexDecConvert, HexToNumber) {
@@ -53,25 +52,16 @@ TEST(HexDecConvert, HexToNumber) {
 }
 
 TEST(HexDecConvert, NumberToHex) {
-  char hex[65];
-  double number = -1;
-  EXPECT_EQ(hex_dec_convert(&number, hex, 8), 2);
-  EXPECT_STREQ(hex, "FFFFFFFFFFFFFFFF");
-  number = 255;
-  EXPECT_EQ(hex_dec_convert(&number, hex, 4), 0);
-  EXPECT_STREQ(hex, "00FF");
-  number = -16;
-  EXPECT_EQ(hex_dec_convert(&number, hex, 20), 0);
-  EXPECT_STREQ(hex, "FFFFFFFFFFFFFFFFFFF0");
-  number = 255.9;
-  EXPECT_EQ(hex_dec_convert(&number, hex, 0), 0);
-  EXPECT_STREQ(hex, "FF");
-  number = 9223372036854775808.0;
-  EXPECT_EQ(hex_dec_convert(&number, hex, 65), 0);
-  EXPECT_STREQ(hex, "8000000000000000");
-  number = KILNUTIL_NANUM;
-  EXPECT_EQ(hex_dec_convert(&number, hex, 4), 1);
-  EXPECT_STREQ(hex, "");
+  const struct { double number; int digits, code; const char* hex; } cases[] = {
+      {-1, 8, 2, "FFFFFFFFFFFFFFFF"}, {255, 4, 0, "00FF"}, {-16, 20, 0, "FFFFFFFFFFFFFFFFFFF0"},
+      {255.9, 0, 0, "FF"}, {9223372036854775808.0, 65, 0, "8000000000000000"}, {KILNUTIL_NANUM, 4, 1, ""},
+  };
+  for (const auto& c : cases) {
+    char hex[65];
+    double number = c.number;
+    EXPECT_EQ(hex_dec_convert(&number, hex, c.digits), c.code) << c.number;
+    EXPECT_STREQ(hex, c.hex) << c.number;
+  }
 }
 
 }  // namespace

@@ -6,60 +6,39 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 
 namespace {
 
 TEST(ExponentTest, SignAndDigitAfterTheMark) {
-  EXPECT_EQ(KILNUTIL_is_str_has_exponent("1E+5"), 1);
-  EXPECT_EQ(KILNUTIL_is_str_has_exponent("1E5"), 0);
-  EXPECT_EQ(KILNUTIL_is_str_has_exponent("1D-3"), 1);
-  EXPECT_EQ(KILNUTIL_is_str_has_exponent("1d-3"), 0);
-  EXPECT_EQ(KILNUTIL_is_str_has_exponent("1e-.5"), 1);  // "." is of the digit class
-  EXPECT_EQ(KILNUTIL_is_str_has_exponent("Ee-5"), 0);   // only the first mark counts
-  EXPECT_EQ(KILNUTIL_is_str_has_exponent("1e+"), 0);
+  const std::pair<const char*, int> cases[] = {
+      {"1E+5", 1}, {"1E5", 0}, {"1D-3", 1}, {"1d-3", 0}, {"1e+", 0},
+      {"1e-.5", 1},  // "." is of the digit class
+      {"Ee-5", 0},   // only the first mark counts
+  };
+  for (const auto& [text, has] : cases) EXPECT_EQ(KILNUTIL_is_str_has_exponent(text), has) << text;
 }
 
-struct EndNumber {
-  int value;
-  std::string prefix;
-  std::ptrdiff_t start;
-};
-
-EndNumber end_number(const char* original, int mode) {
-  std::string text = original;
-  char prefix[64] = "unchanged";
-  char* start = nullptr;
-  const int value = KILNUTIL_End_Number_ex(prefix, text.data(), &start, mode);
-  return {value, prefix, start - text.data()};
-}
-
+// Modes -1, 0 and n > 0 take at most 8 digits (n also bounds the prefix
+// buffer); -2 takes every digit, and -1 leaves the number's leading zeros
+// in the prefix.
 TEST(EndNumber, Modes) {
-  for (int mode : {-1, 0, 20}) {
-    const EndNumber book = end_number("Book123456789", mode);
-    EXPECT_EQ(book.value, 23456789);
-    EXPECT_EQ(book.prefix, "Book1");
-    EXPECT_EQ(book.start, 5);
+  const struct { const char* text; int mode, value; const char* prefix; std::ptrdiff_t start; } cases[] = {
+      {"Book123456789", -1, 23456789, "Book1", 5}, {"Book123456789", 0, 23456789, "Book1", 5},
+      {"Book123456789", 20, 23456789, "Book1", 5}, {"Book123456789", -2, 123456789, "Book", 4},
+      {"a007", -1, 7, "a00", 3},                   {"a000", -1, 0, "a00", 3},
+      {"a007", 0, 7, "a", 1},                      {"Sheet", 0, 0, "Sheet", 5},
+      {"Sheet12", 4, 12, "She", 5},                {"Sheet12", 1, 12, "", 5},
+      {"99999999999999", -2, 2147483647, "", 0},
+  };
+  for (const auto& c : cases) {
+    std::string text = c.text;
+    char prefix[64] = "unchanged";
+    char* start = nullptr;
+    EXPECT_EQ(KILNUTIL_End_Number_ex(prefix, text.data(), &start, c.mode), c.value) << c.text << " mode " << c.mode;
+    EXPECT_STREQ(prefix, c.prefix) << c.text << " mode " << c.mode;
+    EXPECT_EQ(start - text.data(), c.start) << c.text << " mode " << c.mode;
   }
-  const EndNumber any = end_number("Book123456789", -2);
-  EXPECT_EQ(any.value, 123456789);
-  EXPECT_EQ(any.prefix, "Book");
-
-  const EndNumber zeros = end_number("a007", -1);
-  EXPECT_EQ(zeros.value, 7);
-  EXPECT_EQ(zeros.prefix, "a00");
-  const EndNumber all_zeros = end_number("a000", -1);
-  EXPECT_EQ(all_zeros.value, 0);
-  EXPECT_EQ(all_zeros.prefix, "a00");
-  EXPECT_EQ(end_number("a007", 0).prefix, "a");
-
-  const EndNumber none = end_number("Sheet", 0);
-  EXPECT_EQ(none.value, 0);
-  EXPECT_EQ(none.prefix, "Sheet");
-  EXPECT_EQ(none.start, 5);
-
-  EXPECT_EQ(end_number("Sheet12", 4).prefix, "She");  // a 4-byte prefix buffer
-  EXPECT_EQ(end_number("Sheet12", 1).prefix, "");
-  EXPECT_EQ(end_number("99999999999999", -2).value, 2147483647);
 }
 
 TEST(EndNumber, PrefixForm) {
@@ -87,18 +66,17 @@ TEST(MissingText, TextAndBlankSelector) {
   KILNUTIL_get_missing_as_text("--");
 }
 
+// Styles 3 and 4 group with a blank and an apostrophe; unknown styles and a
+// missing output are refused without writing.
 TEST(SeparatorStyles, Table) {
-  char decimal = 'x';
-  char grouping = 'x';
+  char decimal = 'x', grouping = 'x';
   EXPECT_EQ(get_numeric_separators(3, &decimal, &grouping), 1);
-  EXPECT_EQ(decimal, ',');
-  EXPECT_EQ(grouping, ' ');
+  EXPECT_EQ(std::pair(decimal, grouping), std::pair(',', ' '));
   EXPECT_EQ(get_numeric_separators(4, &decimal, &grouping), 1);
   EXPECT_EQ(grouping, '\'');
   decimal = grouping = 'x';
-  EXPECT_EQ(get_numeric_separators(6, &decimal, &grouping), 0);
-  EXPECT_EQ(get_numeric_separators(0, &decimal, &grouping), 0);
-  EXPECT_EQ(decimal, 'x');
+  for (int unknown : {6, 0}) EXPECT_EQ(get_numeric_separators(unknown, &decimal, &grouping), 0);
+  EXPECT_EQ(std::pair(decimal, grouping), std::pair('x', 'x'));
   EXPECT_EQ(get_numeric_separators(1, nullptr, &grouping), 0);
 }
 
