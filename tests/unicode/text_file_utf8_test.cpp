@@ -1,4 +1,5 @@
 #include "test_files.h"
+#include "unicode/utf16_stream_to_utf8.h"
 
 #include <kilnutil/frame.h>
 #include <kilnutil/unicode.h>
@@ -7,7 +8,9 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <random>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -66,13 +69,15 @@ protected:
 };
 
 TEST_F(OpenAsUtf8, Utf16LittleEndianIsConvertedIntoATemporaryCopy) {
-  FILE* stream = begin("\xFF\xFE" + *iconv_convert("UTF-8", "UTF-16LE", kText));
+  // Long enough to be converted in pieces, with a surrogate pair across the first boundary.
+  const std::string text = std::string(kiln::unicode::kUtf16ChunkUnits - 1, 'x') + "\xF0\x9F\x98\x80" + kText;
+  FILE* stream = begin("\xFF\xFE" + *iconv_convert("UTF-8", "UTF-16LE", text));
   ASSERT_NE(stream, nullptr);
   EXPECT_EQ(stream, context_.converted_stream);
   const std::string copy = temporary_path(context_);
   EXPECT_EQ(copy.rfind(copies_->path().string() + "/VU8", 0), 0u) << copy;
   EXPECT_EQ(context_.mark_size, 0);
-  EXPECT_EQ(read_rest(stream), kText);
+  EXPECT_EQ(read_rest(stream), text);
   KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
   EXPECT_EQ(context_.converted_stream, nullptr);
   EXPECT_EQ(context_.temp_path[0], 0);
@@ -183,6 +188,49 @@ TEST_F(OpenAsUtf8, MissingSettingsLeaveTheStreamAlone) {
   EXPECT_EQ(std::ftell(stream), 0);
   std::fclose(stream);
   EXPECT_EQ(KILNUTIL_UNICODE_open_text_file_to_UTF8_BEGIN(nullptr, nullptr), nullptr);
+}
+
+// The chunked conversion against the whole text converted at once, with
+// chunks small enough that pairs, lone surrogates, a zero unit, an odd last
+// byte and the byte limit all meet chunk boundaries.
+TEST(Utf16StreamToUtf8, MatchesTheWholeTextConversionAtEveryChunkSize) {
+  std::mt19937 random(7);
+  const KILN_WCHAR kUnits[] = {u'a', 0x00E9, 0x20AC, 0xD83D, 0xDE00, 0xDC00, 0xDBFF};
+  for (int round = 0; round < 400; ++round) {
+    std::string bytes;
+    std::vector<KILN_WCHAR> units;  // the model: units up to the first zero, an odd last byte a unit
+    bool ended = false;
+    for (int i = static_cast<int>(random() % 24); i > 0; --i) {
+      const KILN_WCHAR unit = random() % 40 == 0 ? 0 : kUnits[random() % std::size(kUnits)];
+      bytes += static_cast<char>(unit & 0xFF);
+      bytes += static_cast<char>(unit >> 8);
+      ended = ended || unit == 0;
+      if (!ended) units.push_back(unit);
+    }
+    if (random() % 3 == 0) {
+      const auto last = static_cast<unsigned char>(random() % 2 ? 'z' : 0);
+      bytes += static_cast<char>(last);
+      if (!ended && last != 0) units.push_back(last);
+    }
+    units.push_back(0);
+    std::string expected(units.size() * 3, '\0');
+    expected.resize(static_cast<size_t>(std::max(
+        0, KILNUTIL_UNICODE_UTF16_to_UTF8_buffers(expected.data(), static_cast<int>(expected.size()), units.data()))));
+    for (const size_t chunk_units : {2, 3, 5, 64}) {
+      FILE* in = std::tmpfile();
+      FILE* out = std::tmpfile();
+      ASSERT_TRUE(in != nullptr && out != nullptr);
+      std::fwrite(bytes.data(), 1, bytes.size(), in);
+      std::fputs("\x41", in);  // past the byte limit: never read
+      std::rewind(in);
+      ASSERT_EQ(kiln::unicode::utf16le_stream_to_utf8(in, bytes.size(), out, chunk_units),
+                kiln::unicode::StreamConversion::kOk);
+      std::rewind(out);
+      EXPECT_EQ(read_rest(out), expected) << "round " << round << ", chunks of " << chunk_units;
+      std::fclose(in);
+      std::fclose(out);
+    }
+  }
 }
 
 TEST(OpenAsUtf8Init, ClearsTheWholeRecord) {
