@@ -84,91 +84,67 @@ TEST_F(OpenAsUtf8, Utf16LittleEndianIsConvertedIntoATemporaryCopy) {
   EXPECT_EQ(copies_->entry_count(), 0u);  // the copy is gone
 }
 
-TEST_F(OpenAsUtf8, TheCopyCanStartWithAMark) {
-  context_.write_mark = 1;
-  FILE* stream = begin(*iconv_convert("UTF-8", "UTF-16LE", kText));  // no mark: guessed
-  ASSERT_NE(stream, nullptr);
-  EXPECT_EQ(context_.mark_size, 3);
-  EXPECT_EQ(read_rest(stream), "\xEF\xBB\xBF" + kText);
-  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
-  EXPECT_EQ(copies_->entry_count(), 0u);
-}
-
-TEST_F(OpenAsUtf8, CodePageTextUsesTheEffectiveCodePage) {
-  const unsigned previous = set_code_page_for_string_process(932);
+// Everything but UTF-8 and big-endian text goes into a copy, which END deletes.
+TEST_F(OpenAsUtf8, ConvertedCopies) {
+  using namespace std::string_literals;
   const std::string japanese = "\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E\n";
-  FILE* stream = begin(*iconv_convert("UTF-8", "SHIFT_JIS", japanese));
-  set_code_page_for_string_process(previous);
-  ASSERT_NE(stream, nullptr);
-  EXPECT_EQ(read_rest(stream), japanese);
-  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
-  EXPECT_EQ(copies_->entry_count(), 0u);
+  const struct {
+    const char* what;
+    std::string bytes;
+    unsigned code_page;
+    int write_mark, guess;
+    std::string copy;
+  } cases[] = {
+      {"unmarked UTF-16LE, guessed; mark asked for", *iconv_convert("UTF-8", "UTF-16LE", kText), 1252, 1, 1,
+       "\xEF\xBB\xBF" + kText},
+      {"code-page text in the effective code page", *iconv_convert("UTF-8", "SHIFT_JIS", japanese), 932, 0, 1, japanese},
+      {"plain ASCII", "just ASCII\n", 1252, 0, 1, "just ASCII\n"},
+      {"unmarked UTF-16 without guessing: code-page text up to its first zero byte", "a\0b\0"s, 1252, 0, 0, "a"},
+      {"an empty file", "", 1252, 1, 1, "\xEF\xBB\xBF"},
+  };
+  for (const auto& c : cases) {
+    context_.write_mark = c.write_mark;
+    context_.guess = c.guess;
+    const unsigned previous = set_code_page_for_string_process(c.code_page);
+    FILE* stream = begin(c.bytes);
+    set_code_page_for_string_process(previous);
+    ASSERT_NE(stream, nullptr) << c.what;
+    EXPECT_EQ(stream, context_.converted_stream) << c.what;
+    EXPECT_EQ(context_.mark_size, c.write_mark ? 3 : 0) << c.what;
+    EXPECT_EQ(read_rest(stream), c.copy) << c.what;
+    KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
+    EXPECT_EQ(copies_->entry_count(), 0u) << c.what;
+  }
 }
 
-TEST_F(OpenAsUtf8, PlainAsciiIsCopiedToo) {
-  FILE* stream = begin("just ASCII\n");
-  ASSERT_NE(stream, nullptr);
-  EXPECT_EQ(stream, context_.converted_stream);
-  EXPECT_EQ(copies_->entry_count(), 1u);
-  EXPECT_EQ(read_rest(stream), "just ASCII\n");
-  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
-  EXPECT_EQ(copies_->entry_count(), 0u);
-}
-
-TEST_F(OpenAsUtf8, Utf8IsReadInPlacePastItsMark) {
-  FILE* stream = begin("\xEF\xBB\xBF" + kText);
-  EXPECT_EQ(stream, caller_stream_);
-  EXPECT_EQ(context_.mark_size, 3);
-  EXPECT_EQ(read_rest(stream), kText);
-  EXPECT_EQ(context_.converted_stream, nullptr);
-  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
-}
-
-TEST_F(OpenAsUtf8, KeepMarkLeavesTheStreamAtTheStart) {
-  context_.keep_mark = 1;
-  FILE* stream = begin("\xEF\xBB\xBF" + kText);
-  EXPECT_EQ(stream, caller_stream_);
-  EXPECT_EQ(context_.mark_size, 3);
-  EXPECT_EQ(read_rest(stream), "\xEF\xBB\xBF" + kText);
-  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
-}
-
-TEST_F(OpenAsUtf8, BigEndianIsHandedBackAtOffsetZero) {
-  FILE* stream = begin("\xFE\xFF" + *iconv_convert("UTF-8", "UTF-16BE", kText));
-  EXPECT_EQ(stream, caller_stream_);
-  EXPECT_EQ(context_.mark_size, 2);
-  EXPECT_EQ(std::ftell(stream), 0);
-  EXPECT_EQ(copies_->entry_count(), 0u);
-  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
-}
-
-TEST_F(OpenAsUtf8, NoConversionOnlySkipsTheMark) {
-  context_.no_conversion = 1;
-  FILE* stream = begin("\xFF\xFE" "a\0b\0" + std::string(1, '\0'));
-  EXPECT_EQ(stream, caller_stream_);
-  EXPECT_EQ(context_.mark_size, 2);
-  EXPECT_EQ(std::ftell(stream), 2);
-  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
-}
-
-TEST_F(OpenAsUtf8, GuessOffTakesUnmarkedUtf16AsCodePageText) {
-  context_.guess = 0;
-  const unsigned previous = set_code_page_for_string_process(1252);
-  FILE* stream = begin(*iconv_convert("UTF-8", "UTF-16LE", "ab"));
-  set_code_page_for_string_process(previous);
-  // "a" 00 "b" 00 as code-page text ends at the first zero byte.
-  ASSERT_NE(stream, nullptr);
-  EXPECT_EQ(read_rest(stream), "a");
-  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
-}
-
-TEST_F(OpenAsUtf8, EmptyFileGivesAnEmptyCopy) {
-  context_.write_mark = 1;
-  FILE* stream = begin("");
-  ASSERT_NE(stream, nullptr);
-  EXPECT_EQ(read_rest(stream), "\xEF\xBB\xBF");
-  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
-  EXPECT_EQ(copies_->entry_count(), 0u);
+// UTF-8 (and anything with conversion off) is read in place past its mark;
+// big-endian text is handed back at its start.
+TEST_F(OpenAsUtf8, StreamsHandedBackInPlace) {
+  using namespace std::string_literals;
+  const struct {
+    const char* what;
+    std::string bytes;
+    int keep_mark, no_conversion;
+    int mark_size;
+    long position;
+  } cases[] = {
+      {"UTF-8", "\xEF\xBB\xBF" + kText, 0, 0, 3, 3},
+      {"UTF-8, mark kept", "\xEF\xBB\xBF" + kText, 1, 0, 3, 0},
+      {"UTF-16BE", "\xFE\xFF" + *iconv_convert("UTF-8", "UTF-16BE", kText), 0, 0, 2, 0},
+      {"UTF-16LE, no conversion", "\xFF\xFE" "a\0b\0\0"s, 0, 1, 2, 2},
+  };
+  for (const auto& c : cases) {
+    context_.keep_mark = c.keep_mark;
+    context_.no_conversion = c.no_conversion;
+    FILE* stream = begin(c.bytes);
+    EXPECT_EQ(stream, caller_stream_) << c.what;
+    EXPECT_EQ(context_.mark_size, c.mark_size) << c.what;
+    EXPECT_EQ(std::ftell(stream), c.position) << c.what;
+    EXPECT_EQ(read_rest(stream), c.bytes.substr(static_cast<size_t>(c.position))) << c.what;
+    EXPECT_EQ(context_.converted_stream, nullptr) << c.what;
+    EXPECT_EQ(copies_->entry_count(), 0u) << c.what;
+    KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
+  }
 }
 
 TEST_F(OpenAsUtf8, TextThatConvertsToNothingFallsBack) {
