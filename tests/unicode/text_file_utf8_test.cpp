@@ -36,9 +36,7 @@ std::string temporary_path(const TextFileToUTF8Context& context) {
 class OpenAsUtf8 : public ::testing::Test {
 protected:
   void SetUp() override {
-    const char* old = std::getenv("TMPDIR");
-    saved_tmpdir_ = old != nullptr ? old : "";
-    had_tmpdir_ = old != nullptr;
+    if (const char* old = std::getenv("TMPDIR")) saved_tmpdir_ = old;
     copies_.emplace();
     setenv("TMPDIR", copies_->path().c_str(), 1);
     KILNUTIL_UNICODE_open_text_file_to_UTF8_INIT(&context_);
@@ -47,7 +45,7 @@ protected:
     context_.guess = 1;
   }
   void TearDown() override {
-    if (had_tmpdir_) setenv("TMPDIR", saved_tmpdir_.c_str(), 1);
+    if (saved_tmpdir_) setenv("TMPDIR", saved_tmpdir_->c_str(), 1);
     else unsetenv("TMPDIR");
   }
 
@@ -64,8 +62,7 @@ protected:
   TextFileToUTF8Context context_;
   std::string path_;
   FILE* caller_stream_ = nullptr;
-  std::string saved_tmpdir_;
-  bool had_tmpdir_ = false;
+  std::optional<std::string> saved_tmpdir_;
 };
 
 TEST_F(OpenAsUtf8, Utf16LittleEndianIsConvertedIntoATemporaryCopy) {
@@ -88,13 +85,7 @@ TEST_F(OpenAsUtf8, Utf16LittleEndianIsConvertedIntoATemporaryCopy) {
 TEST_F(OpenAsUtf8, ConvertedCopies) {
   using namespace std::string_literals;
   const std::string japanese = "\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E\n";
-  const struct {
-    const char* what;
-    std::string bytes;
-    unsigned code_page;
-    int write_mark, guess;
-    std::string copy;
-  } cases[] = {
+  const struct { const char* what; std::string bytes; unsigned code_page; int write_mark, guess; std::string copy; } cases[] = {
       {"unmarked UTF-16LE, guessed; mark asked for", *iconv_convert("UTF-8", "UTF-16LE", kText), 1252, 1, 1,
        "\xEF\xBB\xBF" + kText},
       {"code-page text in the effective code page", *iconv_convert("UTF-8", "SHIFT_JIS", japanese), 932, 0, 1, japanese},
@@ -121,13 +112,7 @@ TEST_F(OpenAsUtf8, ConvertedCopies) {
 // big-endian text is handed back at its start.
 TEST_F(OpenAsUtf8, StreamsHandedBackInPlace) {
   using namespace std::string_literals;
-  const struct {
-    const char* what;
-    std::string bytes;
-    int keep_mark, no_conversion;
-    int mark_size;
-    long position;
-  } cases[] = {
+  const struct { const char* what; std::string bytes; int keep_mark, no_conversion, mark_size; long position; } cases[] = {
       {"UTF-8", "\xEF\xBB\xBF" + kText, 0, 0, 3, 3},
       {"UTF-8, mark kept", "\xEF\xBB\xBF" + kText, 1, 0, 3, 0},
       {"UTF-16BE", "\xFE\xFF" + *iconv_convert("UTF-8", "UTF-16BE", kText), 0, 0, 2, 0},
@@ -173,31 +158,22 @@ TEST(Utf16StreamToUtf8, MatchesTheWholeTextConversionAtEveryChunkSize) {
   std::mt19937 random(7);
   const KILN_WCHAR kUnits[] = {u'a', 0x00E9, 0x20AC, 0xD83D, 0xDE00, 0xDC00, 0xDBFF};
   for (int round = 0; round < 400; ++round) {
-    std::string bytes;
-    std::vector<KILN_WCHAR> units;  // the model: units up to the first zero, an odd last byte a unit
-    bool ended = false;
+    std::u16string units;  // the model: units up to the first zero, an odd last byte a unit of its own
     for (int i = static_cast<int>(random() % 24); i > 0; --i) {
-      const KILN_WCHAR unit = random() % 40 == 0 ? 0 : kUnits[random() % std::size(kUnits)];
-      bytes += static_cast<char>(unit & 0xFF);
-      bytes += static_cast<char>(unit >> 8);
-      ended = ended || unit == 0;
-      if (!ended) units.push_back(unit);
+      units += random() % 40 == 0 ? KILN_WCHAR{0} : kUnits[random() % std::size(kUnits)];
     }
+    std::string bytes(reinterpret_cast<const char*>(units.data()), units.size() * 2);  // little-endian host
     if (random() % 3 == 0) {
-      const auto last = static_cast<unsigned char>(random() % 2 ? 'z' : 0);
-      bytes += static_cast<char>(last);
-      if (!ended && last != 0) units.push_back(last);
+      bytes += random() % 2 ? 'z' : '\0';
+      units += static_cast<KILN_WCHAR>(bytes.back());
     }
-    units.push_back(0);
-    std::string expected(units.size() * 3, '\0');
-    expected.resize(static_cast<size_t>(std::max(
-        0, KILNUTIL_UNICODE_UTF16_to_UTF8_buffers(expected.data(), static_cast<int>(expected.size()), units.data()))));
+    std::string expected(units.size() * 3 + 1, '\0');
+    expected.resize(static_cast<size_t>(std::max(0, KILNUTIL_UNICODE_UTF16_to_UTF8_buffers(
+                                                        expected.data(), static_cast<int>(expected.size()), units.c_str()))));
     for (const size_t chunk_units : {2, 3, 5, 64}) {
       FILE* in = std::tmpfile();
       FILE* out = std::tmpfile();
-      ASSERT_TRUE(in != nullptr && out != nullptr);
-      std::fwrite(bytes.data(), 1, bytes.size(), in);
-      std::fputs("\x41", in);  // past the byte limit: never read
+      std::fwrite((bytes + "A").data(), 1, bytes.size() + 1, in);  // the "A" lies past the byte limit
       std::rewind(in);
       ASSERT_EQ(kiln::unicode::utf16le_stream_to_utf8(in, bytes.size(), out, chunk_units),
                 kiln::unicode::StreamConversion::kOk);
