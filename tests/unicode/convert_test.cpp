@@ -36,44 +36,28 @@ std::string utf8_to_mbcs(const std::string& text, int code_page) {
   return n > 0 ? std::string(out) : std::string();
 }
 
-TEST(MbcsToUtf8, ResultIsTheByteCountMinusOne) {
-  char out[16];
-  std::memset(out, '#', sizeof out);
-  EXPECT_EQ(KILNUTIL_UNICODE_MBCS_to_UTF8("caf\xE9", -1, out, sizeof out, 1252), 5);
-  EXPECT_STREQ(out, "caf\xC3\xA9");
-  // An explicit length converts no NUL: 3 bytes written, result 2.
-  std::memset(out, '#', sizeof out);
-  EXPECT_EQ(KILNUTIL_UNICODE_MBCS_to_UTF8("abcdef", 3, out, sizeof out, 1252), 2);
-  EXPECT_EQ(std::string(out, 4), "abc#");
-  // 0 or less is unbounded.
-  EXPECT_EQ(KILNUTIL_UNICODE_MBCS_to_UTF8("\x80", -1, out, 0, 1252), 3);
-  EXPECT_STREQ(out, "\xE2\x82\xAC");
-}
-
-TEST(MbcsToUtf8, EveryFailureEmptiesTheDestination) {
-  char out[4] = "xyz";
-  EXPECT_EQ(KILNUTIL_UNICODE_MBCS_to_UTF8("", -1, out, sizeof out, 1252), 0);
-  EXPECT_STREQ(out, "");
-  std::strcpy(out, "xyz");
-  EXPECT_EQ(KILNUTIL_UNICODE_MBCS_to_UTF8(nullptr, -1, out, sizeof out, 1252), 0);
-  EXPECT_STREQ(out, "");
-  std::strcpy(out, "xyz");
-  // "café" needs 6 bytes with its NUL.
-  EXPECT_EQ(KILNUTIL_UNICODE_MBCS_to_UTF8("caf\xE9", -1, out, 4, 1252), 0);
-  EXPECT_STREQ(out, "");
-  std::strcpy(out, "xyz");
-  EXPECT_EQ(KILNUTIL_UNICODE_MBCS_to_UTF8("abc", -1, out, sizeof out, 12345), 0);  // no such code page
-  EXPECT_STREQ(out, "");
-}
-
-TEST(MbcsToUtf8, NegativeCodePageMeansTheStringProcessPage) {
-  {
-    StringCodePage page(932);
-    EXPECT_EQ(mbcs_to_utf8("\x93\xFA\x96\x7B", -1), "\xE6\x97\xA5\xE6\x9C\xAC");
-  }
-  {
-    StringCodePage page(1252);
-    EXPECT_EQ(mbcs_to_utf8("\x93\xFA", -1), "\xE2\x80\x9C\xC3\xBA");
+// The result is the UTF-8 byte count minus one: the text's length for a
+// NUL-terminated source, one less than the bytes written (no NUL) for an
+// explicit length. Every failure empties the destination.
+TEST(MbcsToUtf8, ResultsAndDestinations) {
+  using namespace std::string_literals;
+  const struct { const char* text; int length, size, code_page; unsigned string_page; int result; std::string out; } cases[] = {
+      {"caf\xE9", -1, 16, 1252, 0, 5, "caf\xC3\xA9\0"s},
+      {"abcdef", 3, 16, 1252, 0, 2, "abc#"},
+      {"\x80", -1, 0, 1252, 0, 3, "\xE2\x82\xAC\0"s},  // 0 or less is unbounded
+      {"", -1, 16, 1252, 0, 0, "\0"s},
+      {nullptr, -1, 16, 1252, 0, 0, "\0"s},
+      {"caf\xE9", -1, 4, 1252, 0, 0, "\0"s},  // needs 6 bytes with its NUL
+      {"abc", -1, 16, 12345, 0, 0, "\0"s},    // no such code page
+      {"\x93\xFA\x96\x7B", -1, 16, -1, 932, 6, "\xE6\x97\xA5\xE6\x9C\xAC\0"s},  // below 0: the string-process page
+      {"\x93\xFA", -1, 16, -1, 1252, 5, "\xE2\x80\x9C\xC3\xBA\0"s},
+  };
+  for (const auto& c : cases) {
+    char out[16];
+    std::memset(out, '#', sizeof out);
+    StringCodePage page(c.string_page != 0 ? c.string_page : 1252);
+    EXPECT_EQ(KILNUTIL_UNICODE_MBCS_to_UTF8(c.text, c.length, out, c.size, c.code_page), c.result) << c.out;
+    EXPECT_EQ(std::string(out, c.out.size()), c.out);
   }
 }
 
@@ -157,31 +141,27 @@ struct GrowableBuffer {
   }
 };
 
-TEST(MbcsToUtf8Callback, ByteLimitKeepsWholeCharacters) {
-  GrowableBuffer ascii("abcdefghijkl", 0, 10);
-  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_callback(&ascii.record, 1252), 9);
-  EXPECT_STREQ(ascii.record.buffer, "abcdefghi");
-  // Five two-byte characters within 6 bytes: two of them fit with the NUL.
-  GrowableBuffer accents("\xE9\xE9\xE9\xE9\xE9", 0, 6);
-  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_callback(&accents.record, 1252), 4);
-  EXPECT_STREQ(accents.record.buffer, "\xC3\xA9\xC3\xA9");
-  GrowableBuffer at_limit("\xE9\xE9", 0, 5);  // needs exactly 5
-  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_callback(&at_limit.record, 1252), 4);
-}
-
-TEST(MbcsToUtf8Callback, GrowsOnlyWhenNeeded) {
-  GrowableBuffer roomy("caf\xE9", 64, 0);
-  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_callback(&roomy.record, 1252), 5);
-  EXPECT_TRUE(roomy.requests.empty());
-  GrowableBuffer tight("\xE9\xE9\xE9", 0, 0);
-  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_callback(&tight.record, 1252), 6);
-  EXPECT_EQ(tight.requests, std::vector<unsigned>{7});
-  EXPECT_STREQ(tight.record.buffer, "\xC3\xA9\xC3\xA9\xC3\xA9");
-  GrowableBuffer refused("\xE9\xE9\xE9", 0, 0);
-  refused.refuse = true;
-  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_callback(&refused.record, 1252), -1);
-  GrowableBuffer empty("", 4, 0);
-  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_callback(&empty.record, 1252), 0);
+// Within the byte limit no character is split; the buffer grows only when
+// the text needs more room, by exactly what it needs.
+TEST(MbcsToUtf8Callback, ByteLimitAndGrowth) {
+  const struct { std::string text; unsigned capacity, limit; bool refuse; int result; const char* buffer; std::vector<unsigned> grows; } cases[] = {
+      {"abcdefghijkl", 0, 10, false, 9, "abcdefghi", {}},
+      {"\xE9\xE9\xE9\xE9\xE9", 0, 6, false, 4, "\xC3\xA9\xC3\xA9", {}},  // two 2-byte characters and the NUL
+      {"\xE9\xE9", 0, 5, false, 4, "\xC3\xA9\xC3\xA9", {5}},            // exactly at the limit
+      {"caf\xE9", 64, 0, false, 5, "caf\xC3\xA9", {}},
+      {"\xE9\xE9\xE9", 0, 0, false, 6, "\xC3\xA9\xC3\xA9\xC3\xA9", {7}},
+      {"\xE9\xE9\xE9", 0, 0, true, -1, nullptr, {7}},
+      {"", 4, 0, false, 0, "", {}},
+  };
+  for (const auto& c : cases) {
+    GrowableBuffer buffer(c.text, c.capacity, c.limit);
+    buffer.refuse = c.refuse;
+    EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_callback(&buffer.record, 1252), c.result) << c.text;
+    if (c.buffer != nullptr) {
+      EXPECT_STREQ(buffer.record.buffer, c.buffer);
+    }
+    EXPECT_EQ(buffer.requests, c.grows) << c.text;
+  }
 }
 
 TEST(ConvertibleToCodePage, DefaultCharacterDecides) {
