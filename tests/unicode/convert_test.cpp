@@ -187,68 +187,56 @@ std::string handle_text(HGLOBAL handle) {
   return text;
 }
 
-TEST(HandleConversion, RoundTripThroughUtf8) {
-  HGLOBAL handle = text_handle("na\xEFve caf\xE9");
-  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_handle(&handle, 1252), 13);
-  EXPECT_EQ(handle_text(handle), "na\xC3\xAFve caf\xC3\xA9");
-  EXPECT_EQ(GlobalSize(handle), 13u);
-  EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_mbcs_handle(&handle, 1252), 11);
-  EXPECT_EQ(handle_text(handle), "na\xEFve caf\xE9");
-  EXPECT_EQ(GlobalFree(handle), nullptr);
-}
-
-TEST(HandleConversion, EmptyNullAndFailure) {
-  HGLOBAL empty = text_handle("");
-  HGLOBAL before = empty;
-  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_or_back_handle(&empty, 0, 1252), 1);
-  EXPECT_EQ(empty, before);
-  GlobalFree(empty);
+// A conversion replaces the block's text and sizes the block to it (the
+// result counts the NUL); empty text and failures keep the handle. UTF-8 to
+// MBCS reports in the registered flag whether the default character was
+// used; the other way never touches the flag.
+TEST(HandleConversion, ResultsTextsAndTheDefaultCharacterFlag) {
+  int used = 7;
+  int* previous = KILNUTIL_UNICODE_UTF8_to_mbcs_handle_conversion_default_char_used_check(&used);
+  using Convert = int (*)(HGLOBAL*, int);
+  const Convert to_utf8 = KILNUTIL_UNICODE_mbcs_to_UTF8_handle, from_utf8 = KILNUTIL_UNICODE_UTF8_to_mbcs_handle;
+  const Convert to_utf8_or_back = [](HGLOBAL* handle, int page) {
+    return KILNUTIL_UNICODE_mbcs_to_UTF8_or_back_handle(handle, 0, page);
+  };
+  const struct { std::string text; Convert convert; int code_page, result; std::string after; int used; } cases[] = {
+      {"na\xEFve caf\xE9", to_utf8, 1252, 13, "na\xC3\xAFve caf\xC3\xA9", 7},
+      {"na\xC3\xAFve caf\xC3\xA9", from_utf8, 1252, 11, "na\xEFve caf\xE9", 0},
+      {"x\xE6\x97\xA5y", from_utf8, 1252, 4, "x?y", 1},
+      {"", to_utf8_or_back, 1252, 1, "", 7},
+      {"abc", to_utf8_or_back, 12345, -1, "abc", 7},
+  };
+  for (const auto& c : cases) {
+    used = 7;
+    HGLOBAL handle = text_handle(c.text);
+    const HGLOBAL before = handle;
+    EXPECT_EQ(c.convert(&handle, c.code_page), c.result) << c.text;
+    EXPECT_EQ(handle_text(handle), c.after);
+    EXPECT_EQ(used, c.used) << c.text;
+    if (c.result > 1) {
+      EXPECT_EQ(GlobalSize(handle), static_cast<size_t>(c.result));
+    } else {
+      EXPECT_EQ(handle, before);
+    }
+    GlobalFree(handle);
+  }
   HGLOBAL none = nullptr;
   EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_or_back_handle(&none, 0, 1252), 0);
   EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_or_back_handle(nullptr, 0, 1252), 0);
-  HGLOBAL text = text_handle("abc");
-  before = text;
-  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_or_back_handle(&text, 0, 12345), -1);
-  EXPECT_EQ(text, before);
-  EXPECT_EQ(handle_text(text), "abc");
-  GlobalFree(text);
-}
-
-TEST(HandleConversion, RegisteredFlagReportsTheDefaultCharacter) {
-  int used = 7;
-  int* previous = KILNUTIL_UNICODE_UTF8_to_mbcs_handle_conversion_default_char_used_check(&used);
-  HGLOBAL handle = text_handle("x\xE6\x97\xA5y");
-  EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_mbcs_handle(&handle, 1252), 4);
-  EXPECT_EQ(handle_text(handle), "x?y");
-  EXPECT_EQ(used, 1);
-  GlobalFree(handle);
-  handle = text_handle("plain");
-  EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_mbcs_handle(&handle, 1252), 6);
-  EXPECT_EQ(used, 0);
-  GlobalFree(handle);
-  // MBCS to UTF-8 never touches the flag.
-  used = 5;
-  handle = text_handle("abc");
-  KILNUTIL_UNICODE_mbcs_to_UTF8_handle(&handle, 1252);
-  EXPECT_EQ(used, 5);
-  GlobalFree(handle);
   EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_mbcs_handle_conversion_default_char_used_check(previous), &used);
 }
 
 TEST(HandleConversion, Utf8ToUtf16Handle) {
   for (int movable : {0, 1}) {
     HGLOBAL source = text_handle("a\xC3\xA9\xF0\x9F\x98\x80");
-    HGLOBAL wide = KILNUTIL_UNICODE_UTF8_to_UTF16_handle(source, movable, 0);
-    ASSERT_NE(wide, nullptr);
-    EXPECT_EQ(GlobalSize(wide), 10u);  // a, é, a surrogate pair, zero
-    const auto* units = static_cast<const KILN_WCHAR*>(GlobalLock(wide));
-    EXPECT_EQ(std::u16string(units), u"a\u00E9\U0001F600");
-    GlobalUnlock(wide);
-    GlobalFree(wide);
-    // Freeing the source on the way.
-    HGLOBAL second = KILNUTIL_UNICODE_UTF8_to_UTF16_handle(source, movable, 1);
-    EXPECT_NE(second, nullptr);
-    GlobalFree(second);
+    for (int free_source : {0, 1}) {  // the second call frees the source
+      HGLOBAL wide = KILNUTIL_UNICODE_UTF8_to_UTF16_handle(source, movable, free_source);
+      ASSERT_NE(wide, nullptr);
+      EXPECT_EQ(GlobalSize(wide), 10u);  // a, é, a surrogate pair, zero
+      EXPECT_EQ(std::u16string(static_cast<const KILN_WCHAR*>(GlobalLock(wide))), u"a\u00E9\U0001F600");
+      GlobalUnlock(wide);
+      GlobalFree(wide);
+    }
   }
   EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_UTF16_handle(nullptr, 1, 1), nullptr);
 }
