@@ -65,27 +65,15 @@ protected:
   std::optional<std::string> saved_tmpdir_;
 };
 
-TEST_F(OpenAsUtf8, Utf16LittleEndianIsConvertedIntoATemporaryCopy) {
-  // Long enough to be converted in pieces, with a surrogate pair across the first boundary.
-  const std::string text = std::string(kiln::unicode::kUtf16ChunkUnits - 1, 'x') + "\xF0\x9F\x98\x80" + kText;
-  FILE* stream = begin("\xFF\xFE" + *iconv_convert("UTF-8", "UTF-16LE", text));
-  ASSERT_NE(stream, nullptr);
-  EXPECT_EQ(stream, context_.converted_stream);
-  const std::string copy = temporary_path(context_);
-  EXPECT_EQ(copy.rfind(copies_->path().string() + "/VU8", 0), 0u) << copy;
-  EXPECT_EQ(context_.mark_size, 0);
-  EXPECT_EQ(read_rest(stream), text);
-  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
-  EXPECT_EQ(context_.converted_stream, nullptr);
-  EXPECT_EQ(context_.temp_path[0], 0);
-  EXPECT_EQ(copies_->entry_count(), 0u);  // the copy is gone
-}
-
-// Everything but UTF-8 and big-endian text goes into a copy, which END deletes.
+// Everything but UTF-8 and big-endian text goes into a copy in $TMPDIR,
+// which END deletes.
 TEST_F(OpenAsUtf8, ConvertedCopies) {
   using namespace std::string_literals;
   const std::string japanese = "\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E\n";
+  // Long enough to be converted in pieces, with a surrogate pair across the first boundary.
+  const std::string long_text = std::string(kiln::unicode::kUtf16ChunkUnits - 1, 'x') + "\xF0\x9F\x98\x80" + kText;
   const struct { const char* what; std::string bytes; unsigned code_page; int write_mark, guess; std::string copy; } cases[] = {
+      {"UTF-16LE", "\xFF\xFE" + *iconv_convert("UTF-8", "UTF-16LE", long_text), 1252, 0, 1, long_text},
       {"unmarked UTF-16LE, guessed; mark asked for", *iconv_convert("UTF-8", "UTF-16LE", kText), 1252, 1, 1,
        "\xEF\xBB\xBF" + kText},
       {"code-page text in the effective code page", *iconv_convert("UTF-8", "SHIFT_JIS", japanese), 932, 0, 1, japanese},
@@ -101,9 +89,12 @@ TEST_F(OpenAsUtf8, ConvertedCopies) {
     set_code_page_for_string_process(previous);
     ASSERT_NE(stream, nullptr) << c.what;
     EXPECT_EQ(stream, context_.converted_stream) << c.what;
+    EXPECT_EQ(temporary_path(context_).rfind(copies_->path().string() + "/VU8", 0), 0u) << c.what;
     EXPECT_EQ(context_.mark_size, c.write_mark ? 3 : 0) << c.what;
     EXPECT_EQ(read_rest(stream), c.copy) << c.what;
     KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
+    EXPECT_EQ(context_.converted_stream, nullptr) << c.what;
+    EXPECT_EQ(context_.temp_path[0], 0) << c.what;
     EXPECT_EQ(copies_->entry_count(), 0u) << c.what;
   }
 }
