@@ -14,16 +14,6 @@ namespace {
 
 using kiln_test::iconv_convert;
 
-// Sets the string-process code page for one test and puts the old one back.
-class StringCodePage {
-public:
-  explicit StringCodePage(unsigned page) : previous_(set_code_page_for_string_process(page)) {}
-  ~StringCodePage() { set_code_page_for_string_process(previous_); }
-
-private:
-  unsigned previous_;
-};
-
 std::string mbcs_to_utf8(const std::string& text, int code_page) {
   char out[1024];
   const int n = KILNUTIL_UNICODE_MBCS_to_UTF8(text.c_str(), -1, out, sizeof out, code_page);
@@ -55,8 +45,9 @@ TEST(MbcsToUtf8, ResultsAndDestinations) {
   for (const auto& c : cases) {
     char out[16];
     std::memset(out, '#', sizeof out);
-    StringCodePage page(c.string_page != 0 ? c.string_page : 1252);
+    const unsigned previous = set_code_page_for_string_process(c.string_page != 0 ? c.string_page : 1252);
     EXPECT_EQ(KILNUTIL_UNICODE_MBCS_to_UTF8(c.text, c.length, out, c.size, c.code_page), c.result) << c.out;
+    set_code_page_for_string_process(previous);
     EXPECT_EQ(std::string(out, c.out.size()), c.out);
   }
 }
@@ -243,20 +234,14 @@ TEST(HandleConversion, Utf8ToUtf16Handle) {
 
 // Sample texts in each code page, compared with glibc's iconv on characters
 // both converters map the same way.
-struct CodePageSample {
-  int code_page;
-  const char* iconv_name;
-  const char* utf8;
-};
-
 TEST(CodePageTables, AgreeWithIconvOnSampleTexts) {
-  const CodePageSample samples[] = {
+  const struct { int code_page; const char* iconv_name; const char* utf8; } samples[] = {
       {1252, "CP1252", "\xE2\x80\x9C" "Caf\xC3\xA9 na\xC3\xAFve \xE2\x82\xAC" "5 \xC2\xBD \xC3\x9F\xC3\xB8\xC3\x85\xE2\x80\x9D \xE2\x84\xA2"},
       {932, "CP932", "\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E\xE3\x81\xAE\xE3\x83\x86\xE3\x82\xAD\xE3\x82\xB9\xE3\x83\x88 "
                      "\xEF\xBD\xB1\xEF\xBD\xB2 ABC \xE3\x80\x82"},
       {936, "CP936", "\xE4\xB8\xAD\xE6\x96\x87\xE6\x96\x87\xE6\x9C\xAC\xEF\xBC\x8C\xE6\xB5\x8B\xE8\xAF\x95 ABC \xE3\x80\x82"},
   };
-  for (const CodePageSample& sample : samples) {
+  for (const auto& sample : samples) {
     const auto expected = iconv_convert("UTF-8", sample.iconv_name, sample.utf8);
     ASSERT_TRUE(expected.has_value()) << sample.iconv_name;
     EXPECT_EQ(utf8_to_mbcs(sample.utf8, sample.code_page), *expected) << sample.code_page;
