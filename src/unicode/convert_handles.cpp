@@ -37,18 +37,6 @@ int block_text_to_wide(unsigned code_page, const LockedBlock& block, WideScratch
   return count + 1;
 }
 
-int block_units_to_wide(const LockedBlock& block, WideScratch& units) {
-  const auto* text = static_cast<const KILN_WCHAR*>(block.data());
-  const size_t capacity = block.size() / sizeof(KILN_WCHAR);
-  size_t length = 0;
-  while (length < capacity && text[length] != 0) ++length;
-  const int count = clamp_to_int(length);
-  if (!units.reserve(static_cast<size_t>(count) + 1)) return 0;
-  std::memcpy(units.data(), text, static_cast<size_t>(count) * sizeof(KILN_WCHAR));
-  units.data()[count] = 0;
-  return count + 1;
-}
-
 int replace_block_text(HGLOBAL* handle, unsigned code_page, WideScratch& units, int unit_count, int* default_used) {
   const char* default_char = default_used != nullptr ? "?" : nullptr;
   bool used = false;
@@ -66,18 +54,6 @@ int replace_block_text(HGLOBAL* handle, unsigned code_page, WideScratch& units, 
                                                   bytes, default_char, used_report);
   if (default_used != nullptr) *default_used = used ? 1 : 0;
   return written == bytes ? bytes : -1;
-}
-
-int utf16_block_to_utf8(HGLOBAL* handle) {
-  if (handle == nullptr || *handle == nullptr) return 0;
-  LockedBlock block(*handle);
-  if (block.data() == nullptr) return 0;
-  if (block.size() < sizeof(KILN_WCHAR) || *static_cast<const KILN_WCHAR*>(block.data()) == 0) return 1;
-  WideScratch units;
-  const int unit_count = block_units_to_wide(block, units);
-  block.unlock();
-  if (unit_count == 0) return -1;
-  return replace_block_text(handle, kCodePageUtf8, units, unit_count, nullptr);
 }
 
 // The direct path of long code-page text: the conversion's result, or

@@ -38,19 +38,10 @@ private:
 // the zero, 0 on failure.
 int block_text_to_wide(unsigned code_page, const LockedBlock& block, WideScratch& units);
 
-// Converts the UTF-16 text of a locked block (up to its zero unit or the
-// block's end) with a terminating zero unit: the unit count with the zero.
-int block_units_to_wide(const LockedBlock& block, WideScratch& units);
-
 // Reallocates `*handle` (movable, zero-filled) to the size of `units` in the
 // code page and converts them into it. `default_used`, when given, asks for
 // the default character "?" and receives whether it was used. The byte count
 // with the NUL, or -1; `*handle` receives the reallocated handle.
 int replace_block_text(HGLOBAL* handle, unsigned code_page, WideScratch& units, int unit_count, int* default_used);
-
-// Replaces the UTF-16 text of a block with its UTF-8 form (the handle may
-// change): the byte count with the NUL, 1 for empty text, 0 for a null handle
-// or failed lock, -1 on failure.
-int utf16_block_to_utf8(HGLOBAL* handle);
 
 }  // namespace kiln::unicode

@@ -1,11 +1,13 @@
 // Any text file as a UTF-8 stream. UTF-8 files (and, on request, every file)
 // are read in place past their mark; UTF-16 big-endian files are handed back
 // as they are; everything else is converted into a temporary UTF-8 copy,
-// which END deletes.
+// which END deletes. UTF-16 little-endian text is converted into the copy a
+// chunk at a time; code-page text is converted whole in memory.
 #include "unicode/code_page_text.h"
 #include "unicode/encoding_detect.h"
 #include "unicode/file_bytes.h"
 #include "unicode/global_text.h"
+#include "unicode/utf16_stream_to_utf8.h"
 
 #include <kilnutil/unicode.h>
 
@@ -60,12 +62,6 @@ HGLOBAL read_after_mark(FILE* stream, long long length, unsigned mark_size, size
   return block;
 }
 
-// Converts the block to UTF-8 in place; the UTF-8 length, below 1 on failure.
-int convert_block(HGLOBAL* block, unsigned family) {
-  const int result = family == kEncodingUtf16Le ? utf16_block_to_utf8(block) : KILNUTIL_UNICODE_mbcs_to_UTF8_handle(block, -1);
-  return result - 1;
-}
-
 // A new empty file in $TMPDIR (else /tmp) named VU8...; -1 when none can be made.
 int create_temporary_file(std::string& path) {
   const char* folder = std::getenv("TMPDIR");
@@ -83,10 +79,10 @@ const char* converted_copy_mode(const TextFileToUTF8Context* context) {
   return context->utf8_text_mode ? "rt, ccs=UTF-8" : "rt";
 }
 
-// Writes the converted copy and opens it for reading; null when the copy
-// could not be written.
-FILE* make_converted_copy(TextFileToUTF8Context* context, HGLOBAL block, int length, FILE* stream) {
-  std::string path;
+// Creates the temporary copy, open for writing, with its path recorded in
+// the context and the mark the context asks for written; null (nothing left
+// behind) when no copy can be made.
+FILE* start_copy(TextFileToUTF8Context* context, std::string& path) {
   const int descriptor = create_temporary_file(path);
   FILE* copy = descriptor >= 0 ? fdopen(descriptor, "wb") : nullptr;
   set_temporary_path(context, copy != nullptr ? path.c_str() : nullptr);
@@ -95,27 +91,69 @@ FILE* make_converted_copy(TextFileToUTF8Context* context, HGLOBAL block, int len
     else if (descriptor >= 0) close(descriptor);
     if (descriptor >= 0) unlink(path.c_str());
     context->temp_path[0] = 0;
-    return reopen_with_fallback(context, block, stream);
+    return nullptr;
   }
   context->mark_size = 0;
   if (context->write_mark) {
     std::fwrite(kUtf8Mark, 1, sizeof kUtf8Mark, copy);
     context->mark_size = sizeof kUtf8Mark;
   }
-  size_t written = 0;
-  if (length > 0) {
-    LockedBlock text(block);
-    if (text.data() != nullptr) written = std::fwrite(text.data(), 1, static_cast<size_t>(length), copy);
-  }
-  GlobalFree(block);
-  const bool complete = std::fclose(copy) == 0 && written == static_cast<size_t>(length > 0 ? length : 0);
-  if (!complete) {
-    unlink(path.c_str());
-    context->temp_path[0] = 0;
-  }
+  return copy;
+}
+
+void discard_copy(TextFileToUTF8Context* context, FILE* copy, const std::string& path) {
+  if (copy != nullptr) std::fclose(copy);
+  unlink(path.c_str());
+  context->temp_path[0] = 0;
+}
+
+// Closes the written copy and the source and opens the copy for reading; a
+// copy not written whole is deleted and null comes back.
+FILE* finish_copy(TextFileToUTF8Context* context, FILE* copy, const std::string& path, bool written, FILE* stream) {
+  const bool complete = std::fclose(copy) == 0 && written;
+  if (!complete) discard_copy(context, nullptr, path);
   std::fclose(stream);
   context->converted_stream = complete ? KILNUTIL_UTF8_fopen(path.c_str(), converted_copy_mode(context)) : nullptr;
   return context->converted_stream;
+}
+
+// Code-page text: converted whole in its block, then written to the copy.
+FILE* copy_code_page_text(TextFileToUTF8Context* context, FILE* stream, long long length, unsigned mark_size) {
+  size_t size = 0;
+  HGLOBAL block = read_after_mark(stream, length, mark_size, size);
+  if (block == nullptr) return reopen_with_fallback(context, nullptr, stream);
+  int utf8_length = 0;
+  if (size > 0) {
+    utf8_length = KILNUTIL_UNICODE_mbcs_to_UTF8_handle(&block, -1) - 1;
+    if (utf8_length < 1) return reopen_with_fallback(context, block, stream);
+  }
+  std::string path;
+  FILE* copy = start_copy(context, path);
+  if (copy == nullptr) return reopen_with_fallback(context, block, stream);
+  size_t written = 0;
+  if (utf8_length > 0) {
+    LockedBlock text(block);
+    if (text.data() != nullptr) written = std::fwrite(text.data(), 1, static_cast<size_t>(utf8_length), copy);
+  }
+  GlobalFree(block);
+  return finish_copy(context, copy, path, written == static_cast<size_t>(utf8_length), stream);
+}
+
+// UTF-16 little-endian text: converted a chunk at a time straight into the
+// copy, so the file is never held in memory whole.
+FILE* copy_utf16_text(TextFileToUTF8Context* context, FILE* stream, long long length, unsigned mark_size) {
+  if (fseeko(stream, mark_size, SEEK_SET) != 0) return reopen_with_fallback(context, nullptr, stream);
+  std::string path;
+  FILE* copy = start_copy(context, path);
+  if (copy == nullptr) return reopen_with_fallback(context, nullptr, stream);
+  const unsigned long long size = length > mark_size ? static_cast<unsigned long long>(length - mark_size) : 0;
+  const StreamConversion result = utf16le_stream_to_utf8(stream, size, copy);
+  if (result == StreamConversion::kConversionFailed) {
+    discard_copy(context, copy, path);
+    context->mark_size = static_cast<unsigned char>(mark_size);  // the file's own mark again
+    return reopen_with_fallback(context, nullptr, stream);
+  }
+  return finish_copy(context, copy, path, result == StreamConversion::kOk, stream);
 }
 
 }  // namespace
@@ -145,15 +183,8 @@ FILE* open_text_file_as_utf8(FILE* stream, TextFileToUTF8Context* context) {
   std::fclose(stream);
   FILE* raw = KILNUTIL_UTF8_fopen(context->path, "rb");
   if (raw == nullptr || length < 0) return reopen_with_fallback(context, nullptr, raw);
-  size_t size = 0;
-  HGLOBAL block = read_after_mark(raw, length, mark_size, size);
-  if (block == nullptr) return reopen_with_fallback(context, nullptr, raw);
-  int utf8_length = 0;
-  if (size > 0) {
-    utf8_length = convert_block(&block, family);
-    if (utf8_length < 1) return reopen_with_fallback(context, block, raw);
-  }
-  return make_converted_copy(context, block, utf8_length, raw);
+  if (family == kEncodingUtf16Le) return copy_utf16_text(context, raw, length, mark_size);
+  return copy_code_page_text(context, raw, length, mark_size);
 }
 
 void close_text_file_as_utf8(FILE* stream, TextFileToUTF8Context* context) {

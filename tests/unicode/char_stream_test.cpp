@@ -49,32 +49,27 @@ private:
 
 const std::string kMixed = "a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80";
 
-TEST(Utf8Fgetc, DecodesFromStreamsAndSources) {
-  ByteStream stream(kMixed);
-  StringByteSource source(kMixed);
-  for (const unsigned expected : {0x61u, 0xE9u, 0x20ACu, 0x1F600u}) {
-    EXPECT_EQ(KILNUTIL_UTF8_fgetc(stream.get(), 0), static_cast<int>(expected));
-    EXPECT_EQ(KILNUTIL_UTF8_fgetc(&source, KILNUTIL_CHAR_SOURCE), static_cast<int>(expected));
+// Characters read one after another from a stream over the bytes.
+TEST(Utf8Fgetc, ReadsStreamsAndSources) {
+  const struct { std::string bytes; unsigned flags; std::vector<int> reads; } cases[] = {
+      {kMixed, 0, {0x61, 0xE9, 0x20AC, 0x1F600, -1}},
+      // Continuation bytes are not checked: the 'A' after C3 is taken as one.
+      {"\xC3" "AB", 0, {(0x03 << 6) | ('A' & 0x3F), 'B', -1}},
+      // A sequence cut by the end takes the end's bits as they come.
+      {"\xE2\x82", 0, {(0x2 << 12) | (0x02 << 6) | 0x3F}},
+      // A raw unit never reports the end: the second read hits it, then the first.
+      {"\x34\x12\x56", KILNUTIL_CHAR_RAW_UTF16, {0x1234, 0xFF56, 0xFF}},
+  };
+  for (const auto& c : cases) {
+    ByteStream stream(c.bytes);
+    for (const int expected : c.reads) EXPECT_EQ(KILNUTIL_UTF8_fgetc(stream.get(), c.flags), expected) << c.bytes;
   }
-  EXPECT_EQ(KILNUTIL_UTF8_fgetc(stream.get(), 0), -1);
-  EXPECT_EQ(KILNUTIL_UTF8_fgetc(&source, KILNUTIL_CHAR_SOURCE), -1);
-}
-
-TEST(Utf8Fgetc, ContinuationBytesAreNotChecked) {
-  // 0xC3 followed by 'A': the 'A' is consumed as a continuation byte.
-  ByteStream stream("\xC3" "AB");
-  EXPECT_EQ(KILNUTIL_UTF8_fgetc(stream.get(), 0), (0x03 << 6) | ('A' & 0x3F));
-  EXPECT_EQ(KILNUTIL_UTF8_fgetc(stream.get(), 0), 'B');
-  // A sequence cut by the end takes the end's bits as they come.
-  ByteStream cut("\xE2\x82");
-  EXPECT_EQ(KILNUTIL_UTF8_fgetc(cut.get(), 0), (0x2 << 12) | (0x02 << 6) | 0x3F);
-}
-
-TEST(Utf8Fgetc, RawUnitNeverReportsTheEnd) {
-  ByteStream stream("\x34\x12\x56");
-  EXPECT_EQ(KILNUTIL_UTF8_fgetc(stream.get(), KILNUTIL_CHAR_RAW_UTF16), 0x1234);
-  EXPECT_EQ(KILNUTIL_UTF8_fgetc(stream.get(), KILNUTIL_CHAR_RAW_UTF16), 0xFF56);  // second read hits the end
-  EXPECT_EQ(KILNUTIL_UTF8_fgetc(stream.get(), KILNUTIL_CHAR_RAW_UTF16), 0xFF);    // first read at the end
+  StringByteSource source(kMixed);
+  for (const int expected : cases[0].reads) EXPECT_EQ(KILNUTIL_UTF8_fgetc(&source, KILNUTIL_CHAR_SOURCE), expected);
+  EXPECT_EQ(KILNUTIL_UTF8_fgetc(nullptr, 0), -1);
+  EXPECT_EQ(KILNUTIL_UTF16_fgetc(nullptr, 0, 0), -1);
+  KILNUTIL_UTF8_ungetc('a', nullptr, 0);
+  EXPECT_EQ(KILNUTIL_UTF16_ungetc('a', nullptr, 0, 0), -1);
 }
 
 TEST(Utf8Ungetc, PushedCharactersComeBackInOrder) {
@@ -102,13 +97,6 @@ TEST(Utf16Units, BothByteOrdersAndPushBack) {
   StringByteSource source(std::string("\x00\x41", 2));
   EXPECT_EQ(KILNUTIL_UTF16_fgetc(&source, 1, KILNUTIL_CHAR_SOURCE), 0x41);
   EXPECT_EQ(KILNUTIL_UTF16_fgetc(&source, 1, KILNUTIL_CHAR_SOURCE), -1);
-}
-
-TEST(CharStreams, NullStreams) {
-  EXPECT_EQ(KILNUTIL_UTF8_fgetc(nullptr, 0), -1);
-  EXPECT_EQ(KILNUTIL_UTF16_fgetc(nullptr, 0, 0), -1);
-  KILNUTIL_UTF8_ungetc('a', nullptr, 0);
-  EXPECT_EQ(KILNUTIL_UTF16_ungetc('a', nullptr, 0, 0), -1);
 }
 
 }  // namespace

@@ -67,15 +67,6 @@ TEST(CodePageDirect, MatchesTheTwoStepConversion) {
   }
 }
 
-TEST(CodePageDirect, OnlyForLongTextInKnownPages) {
-  kiln::unicode::Scratch<char> out;
-  EXPECT_EQ(kiln::unicode::code_page_to_utf8_direct(1252, "short", -1, out), -1);
-  const std::string text(1000, 'x');
-  EXPECT_EQ(kiln::unicode::code_page_to_utf8_direct(65001, text.c_str(), -1, out), -1);
-  EXPECT_EQ(kiln::unicode::code_page_to_utf8_direct(1252, text.c_str(), -1, out), 1001);
-  EXPECT_EQ(kiln::unicode::code_page_to_utf8_direct(1252, text.c_str(), 1000, out), 1000);
-}
-
 TEST(CodePageDirect, ExportsTakeTheDirectPathWithTheSameResults) {
   std::string text;
   for (int i = 0; i < 100; ++i) text += "\x93\xFA\x96\x7B\x8C\xEA abc ";

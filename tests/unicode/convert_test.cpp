@@ -14,16 +14,6 @@ namespace {
 
 using kiln_test::iconv_convert;
 
-// Sets the string-process code page for one test and puts the old one back.
-class StringCodePage {
-public:
-  explicit StringCodePage(unsigned page) : previous_(set_code_page_for_string_process(page)) {}
-  ~StringCodePage() { set_code_page_for_string_process(previous_); }
-
-private:
-  unsigned previous_;
-};
-
 std::string mbcs_to_utf8(const std::string& text, int code_page) {
   char out[1024];
   const int n = KILNUTIL_UNICODE_MBCS_to_UTF8(text.c_str(), -1, out, sizeof out, code_page);
@@ -36,44 +26,29 @@ std::string utf8_to_mbcs(const std::string& text, int code_page) {
   return n > 0 ? std::string(out) : std::string();
 }
 
-TEST(MbcsToUtf8, ResultIsTheByteCountMinusOne) {
-  char out[16];
-  std::memset(out, '#', sizeof out);
-  EXPECT_EQ(KILNUTIL_UNICODE_MBCS_to_UTF8("caf\xE9", -1, out, sizeof out, 1252), 5);
-  EXPECT_STREQ(out, "caf\xC3\xA9");
-  // An explicit length converts no NUL: 3 bytes written, result 2.
-  std::memset(out, '#', sizeof out);
-  EXPECT_EQ(KILNUTIL_UNICODE_MBCS_to_UTF8("abcdef", 3, out, sizeof out, 1252), 2);
-  EXPECT_EQ(std::string(out, 4), "abc#");
-  // 0 or less is unbounded.
-  EXPECT_EQ(KILNUTIL_UNICODE_MBCS_to_UTF8("\x80", -1, out, 0, 1252), 3);
-  EXPECT_STREQ(out, "\xE2\x82\xAC");
-}
-
-TEST(MbcsToUtf8, EveryFailureEmptiesTheDestination) {
-  char out[4] = "xyz";
-  EXPECT_EQ(KILNUTIL_UNICODE_MBCS_to_UTF8("", -1, out, sizeof out, 1252), 0);
-  EXPECT_STREQ(out, "");
-  std::strcpy(out, "xyz");
-  EXPECT_EQ(KILNUTIL_UNICODE_MBCS_to_UTF8(nullptr, -1, out, sizeof out, 1252), 0);
-  EXPECT_STREQ(out, "");
-  std::strcpy(out, "xyz");
-  // "café" needs 6 bytes with its NUL.
-  EXPECT_EQ(KILNUTIL_UNICODE_MBCS_to_UTF8("caf\xE9", -1, out, 4, 1252), 0);
-  EXPECT_STREQ(out, "");
-  std::strcpy(out, "xyz");
-  EXPECT_EQ(KILNUTIL_UNICODE_MBCS_to_UTF8("abc", -1, out, sizeof out, 12345), 0);  // no such code page
-  EXPECT_STREQ(out, "");
-}
-
-TEST(MbcsToUtf8, NegativeCodePageMeansTheStringProcessPage) {
-  {
-    StringCodePage page(932);
-    EXPECT_EQ(mbcs_to_utf8("\x93\xFA\x96\x7B", -1), "\xE6\x97\xA5\xE6\x9C\xAC");
-  }
-  {
-    StringCodePage page(1252);
-    EXPECT_EQ(mbcs_to_utf8("\x93\xFA", -1), "\xE2\x80\x9C\xC3\xBA");
+// The result is the UTF-8 byte count minus one: the text's length for a
+// NUL-terminated source, one less than the bytes written (no NUL) for an
+// explicit length. Every failure empties the destination.
+TEST(MbcsToUtf8, ResultsAndDestinations) {
+  using namespace std::string_literals;
+  const struct { const char* text; int length, size, code_page; unsigned string_page; int result; std::string out; } cases[] = {
+      {"caf\xE9", -1, 16, 1252, 0, 5, "caf\xC3\xA9\0"s},
+      {"abcdef", 3, 16, 1252, 0, 2, "abc#"},
+      {"\x80", -1, 0, 1252, 0, 3, "\xE2\x82\xAC\0"s},  // 0 or less is unbounded
+      {"", -1, 16, 1252, 0, 0, "\0"s},
+      {nullptr, -1, 16, 1252, 0, 0, "\0"s},
+      {"caf\xE9", -1, 4, 1252, 0, 0, "\0"s},  // needs 6 bytes with its NUL
+      {"abc", -1, 16, 12345, 0, 0, "\0"s},    // no such code page
+      {"\x93\xFA\x96\x7B", -1, 16, -1, 932, 6, "\xE6\x97\xA5\xE6\x9C\xAC\0"s},  // below 0: the string-process page
+      {"\x93\xFA", -1, 16, -1, 1252, 5, "\xE2\x80\x9C\xC3\xBA\0"s},
+  };
+  for (const auto& c : cases) {
+    char out[16];
+    std::memset(out, '#', sizeof out);
+    const unsigned previous = set_code_page_for_string_process(c.string_page != 0 ? c.string_page : 1252);
+    EXPECT_EQ(KILNUTIL_UNICODE_MBCS_to_UTF8(c.text, c.length, out, c.size, c.code_page), c.result) << c.out;
+    set_code_page_for_string_process(previous);
+    EXPECT_EQ(std::string(out, c.out.size()), c.out);
   }
 }
 
@@ -157,31 +132,27 @@ struct GrowableBuffer {
   }
 };
 
-TEST(MbcsToUtf8Callback, ByteLimitKeepsWholeCharacters) {
-  GrowableBuffer ascii("abcdefghijkl", 0, 10);
-  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_callback(&ascii.record, 1252), 9);
-  EXPECT_STREQ(ascii.record.buffer, "abcdefghi");
-  // Five two-byte characters within 6 bytes: two of them fit with the NUL.
-  GrowableBuffer accents("\xE9\xE9\xE9\xE9\xE9", 0, 6);
-  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_callback(&accents.record, 1252), 4);
-  EXPECT_STREQ(accents.record.buffer, "\xC3\xA9\xC3\xA9");
-  GrowableBuffer at_limit("\xE9\xE9", 0, 5);  // needs exactly 5
-  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_callback(&at_limit.record, 1252), 4);
-}
-
-TEST(MbcsToUtf8Callback, GrowsOnlyWhenNeeded) {
-  GrowableBuffer roomy("caf\xE9", 64, 0);
-  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_callback(&roomy.record, 1252), 5);
-  EXPECT_TRUE(roomy.requests.empty());
-  GrowableBuffer tight("\xE9\xE9\xE9", 0, 0);
-  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_callback(&tight.record, 1252), 6);
-  EXPECT_EQ(tight.requests, std::vector<unsigned>{7});
-  EXPECT_STREQ(tight.record.buffer, "\xC3\xA9\xC3\xA9\xC3\xA9");
-  GrowableBuffer refused("\xE9\xE9\xE9", 0, 0);
-  refused.refuse = true;
-  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_callback(&refused.record, 1252), -1);
-  GrowableBuffer empty("", 4, 0);
-  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_callback(&empty.record, 1252), 0);
+// Within the byte limit no character is split; the buffer grows only when
+// the text needs more room, by exactly what it needs.
+TEST(MbcsToUtf8Callback, ByteLimitAndGrowth) {
+  const struct { std::string text; unsigned capacity, limit; bool refuse; int result; const char* buffer; std::vector<unsigned> grows; } cases[] = {
+      {"abcdefghijkl", 0, 10, false, 9, "abcdefghi", {}},
+      {"\xE9\xE9\xE9\xE9\xE9", 0, 6, false, 4, "\xC3\xA9\xC3\xA9", {}},  // two 2-byte characters and the NUL
+      {"\xE9\xE9", 0, 5, false, 4, "\xC3\xA9\xC3\xA9", {5}},            // exactly at the limit
+      {"caf\xE9", 64, 0, false, 5, "caf\xC3\xA9", {}},
+      {"\xE9\xE9\xE9", 0, 0, false, 6, "\xC3\xA9\xC3\xA9\xC3\xA9", {7}},
+      {"\xE9\xE9\xE9", 0, 0, true, -1, nullptr, {7}},
+      {"", 4, 0, false, 0, "", {}},
+  };
+  for (const auto& c : cases) {
+    GrowableBuffer buffer(c.text, c.capacity, c.limit);
+    buffer.refuse = c.refuse;
+    EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_callback(&buffer.record, 1252), c.result) << c.text;
+    if (c.buffer != nullptr) {
+      EXPECT_STREQ(buffer.record.buffer, c.buffer);
+    }
+    EXPECT_EQ(buffer.requests, c.grows) << c.text;
+  }
 }
 
 TEST(ConvertibleToCodePage, DefaultCharacterDecides) {
@@ -207,88 +178,70 @@ std::string handle_text(HGLOBAL handle) {
   return text;
 }
 
-TEST(HandleConversion, RoundTripThroughUtf8) {
-  HGLOBAL handle = text_handle("na\xEFve caf\xE9");
-  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_handle(&handle, 1252), 13);
-  EXPECT_EQ(handle_text(handle), "na\xC3\xAFve caf\xC3\xA9");
-  EXPECT_EQ(GlobalSize(handle), 13u);
-  EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_mbcs_handle(&handle, 1252), 11);
-  EXPECT_EQ(handle_text(handle), "na\xEFve caf\xE9");
-  EXPECT_EQ(GlobalFree(handle), nullptr);
-}
-
-TEST(HandleConversion, EmptyNullAndFailure) {
-  HGLOBAL empty = text_handle("");
-  HGLOBAL before = empty;
-  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_or_back_handle(&empty, 0, 1252), 1);
-  EXPECT_EQ(empty, before);
-  GlobalFree(empty);
+// A conversion replaces the block's text and sizes the block to it (the
+// result counts the NUL); empty text and failures keep the handle. UTF-8 to
+// MBCS reports in the registered flag whether the default character was
+// used; the other way never touches the flag.
+TEST(HandleConversion, ResultsTextsAndTheDefaultCharacterFlag) {
+  int used = 7;
+  int* previous = KILNUTIL_UNICODE_UTF8_to_mbcs_handle_conversion_default_char_used_check(&used);
+  using Convert = int (*)(HGLOBAL*, int);
+  const Convert to_utf8 = KILNUTIL_UNICODE_mbcs_to_UTF8_handle, from_utf8 = KILNUTIL_UNICODE_UTF8_to_mbcs_handle;
+  const Convert to_utf8_or_back = [](HGLOBAL* handle, int page) {
+    return KILNUTIL_UNICODE_mbcs_to_UTF8_or_back_handle(handle, 0, page);
+  };
+  const struct { std::string text; Convert convert; int code_page, result; std::string after; int used; } cases[] = {
+      {"na\xEFve caf\xE9", to_utf8, 1252, 13, "na\xC3\xAFve caf\xC3\xA9", 7},
+      {"na\xC3\xAFve caf\xC3\xA9", from_utf8, 1252, 11, "na\xEFve caf\xE9", 0},
+      {"x\xE6\x97\xA5y", from_utf8, 1252, 4, "x?y", 1},
+      {"", to_utf8_or_back, 1252, 1, "", 7},
+      {"abc", to_utf8_or_back, 12345, -1, "abc", 7},
+  };
+  for (const auto& c : cases) {
+    used = 7;
+    HGLOBAL handle = text_handle(c.text);
+    const HGLOBAL before = handle;
+    EXPECT_EQ(c.convert(&handle, c.code_page), c.result) << c.text;
+    EXPECT_EQ(handle_text(handle), c.after);
+    EXPECT_EQ(used, c.used) << c.text;
+    if (c.result > 1) {
+      EXPECT_EQ(GlobalSize(handle), static_cast<size_t>(c.result));
+    } else {
+      EXPECT_EQ(handle, before);
+    }
+    GlobalFree(handle);
+  }
   HGLOBAL none = nullptr;
   EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_or_back_handle(&none, 0, 1252), 0);
   EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_or_back_handle(nullptr, 0, 1252), 0);
-  HGLOBAL text = text_handle("abc");
-  before = text;
-  EXPECT_EQ(KILNUTIL_UNICODE_mbcs_to_UTF8_or_back_handle(&text, 0, 12345), -1);
-  EXPECT_EQ(text, before);
-  EXPECT_EQ(handle_text(text), "abc");
-  GlobalFree(text);
-}
-
-TEST(HandleConversion, RegisteredFlagReportsTheDefaultCharacter) {
-  int used = 7;
-  int* previous = KILNUTIL_UNICODE_UTF8_to_mbcs_handle_conversion_default_char_used_check(&used);
-  HGLOBAL handle = text_handle("x\xE6\x97\xA5y");
-  EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_mbcs_handle(&handle, 1252), 4);
-  EXPECT_EQ(handle_text(handle), "x?y");
-  EXPECT_EQ(used, 1);
-  GlobalFree(handle);
-  handle = text_handle("plain");
-  EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_mbcs_handle(&handle, 1252), 6);
-  EXPECT_EQ(used, 0);
-  GlobalFree(handle);
-  // MBCS to UTF-8 never touches the flag.
-  used = 5;
-  handle = text_handle("abc");
-  KILNUTIL_UNICODE_mbcs_to_UTF8_handle(&handle, 1252);
-  EXPECT_EQ(used, 5);
-  GlobalFree(handle);
   EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_mbcs_handle_conversion_default_char_used_check(previous), &used);
 }
 
 TEST(HandleConversion, Utf8ToUtf16Handle) {
   for (int movable : {0, 1}) {
     HGLOBAL source = text_handle("a\xC3\xA9\xF0\x9F\x98\x80");
-    HGLOBAL wide = KILNUTIL_UNICODE_UTF8_to_UTF16_handle(source, movable, 0);
-    ASSERT_NE(wide, nullptr);
-    EXPECT_EQ(GlobalSize(wide), 10u);  // a, é, a surrogate pair, zero
-    const auto* units = static_cast<const KILN_WCHAR*>(GlobalLock(wide));
-    EXPECT_EQ(std::u16string(units), u"a\u00E9\U0001F600");
-    GlobalUnlock(wide);
-    GlobalFree(wide);
-    // Freeing the source on the way.
-    HGLOBAL second = KILNUTIL_UNICODE_UTF8_to_UTF16_handle(source, movable, 1);
-    EXPECT_NE(second, nullptr);
-    GlobalFree(second);
+    for (int free_source : {0, 1}) {  // the second call frees the source
+      HGLOBAL wide = KILNUTIL_UNICODE_UTF8_to_UTF16_handle(source, movable, free_source);
+      ASSERT_NE(wide, nullptr);
+      EXPECT_EQ(GlobalSize(wide), 10u);  // a, é, a surrogate pair, zero
+      EXPECT_EQ(std::u16string(static_cast<const KILN_WCHAR*>(GlobalLock(wide))), u"a\u00E9\U0001F600");
+      GlobalUnlock(wide);
+      GlobalFree(wide);
+    }
   }
   EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_UTF16_handle(nullptr, 1, 1), nullptr);
 }
 
 // Sample texts in each code page, compared with glibc's iconv on characters
 // both converters map the same way.
-struct CodePageSample {
-  int code_page;
-  const char* iconv_name;
-  const char* utf8;
-};
-
 TEST(CodePageTables, AgreeWithIconvOnSampleTexts) {
-  const CodePageSample samples[] = {
+  const struct { int code_page; const char* iconv_name; const char* utf8; } samples[] = {
       {1252, "CP1252", "\xE2\x80\x9C" "Caf\xC3\xA9 na\xC3\xAFve \xE2\x82\xAC" "5 \xC2\xBD \xC3\x9F\xC3\xB8\xC3\x85\xE2\x80\x9D \xE2\x84\xA2"},
       {932, "CP932", "\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E\xE3\x81\xAE\xE3\x83\x86\xE3\x82\xAD\xE3\x82\xB9\xE3\x83\x88 "
                      "\xEF\xBD\xB1\xEF\xBD\xB2 ABC \xE3\x80\x82"},
       {936, "CP936", "\xE4\xB8\xAD\xE6\x96\x87\xE6\x96\x87\xE6\x9C\xAC\xEF\xBC\x8C\xE6\xB5\x8B\xE8\xAF\x95 ABC \xE3\x80\x82"},
   };
-  for (const CodePageSample& sample : samples) {
+  for (const auto& sample : samples) {
     const auto expected = iconv_convert("UTF-8", sample.iconv_name, sample.utf8);
     ASSERT_TRUE(expected.has_value()) << sample.iconv_name;
     EXPECT_EQ(utf8_to_mbcs(sample.utf8, sample.code_page), *expected) << sample.code_page;

@@ -30,84 +30,45 @@ private:
   unsigned previous_;
 };
 
-TEST(DetectMarks, AreTestedInTheirFixedOrder) {
+// Every answer of the buffer test, grouped by what decides it.
+TEST(DetectBuffer, Answers) {
   using namespace std::string_literals;
-  EXPECT_EQ(detect("\xFF\xFE" "a\0"s), 258u);
-  EXPECT_EQ(detect("\xFE\xFF\0a"s), 259u);
-  EXPECT_EQ(detect("\xEF\xBB\xBF" "abc"), 257u);
-  // FF FE comes first, so a UTF-32LE mark is reported as UTF-16LE.
-  EXPECT_EQ(detect("\xFF\xFE\0\0"s), 258u);
-  EXPECT_EQ(KILNUTIL_GetBOMSize(detect("\xFF\xFE\0\0"s)), 2);
-  EXPECT_EQ(detect("\0\0\xFE\xFF"s), 261u);
-  // Marks cut short are no marks; with guessing off that is code-page text.
-  EXPECT_EQ(detect("\xEF\xBB", 1), 0u);
-  EXPECT_EQ(detect("\xFF", 1), 0u);
-}
-
-TEST(DetectMarks, MarkSizes) {
-  EXPECT_EQ(KILNUTIL_GetBOMSize(257), 3);
-  EXPECT_EQ(KILNUTIL_GetBOMSize(258), 2);
-  EXPECT_EQ(KILNUTIL_GetBOMSize(259), 2);
-  EXPECT_EQ(KILNUTIL_GetBOMSize(260), 4);
-  EXPECT_EQ(KILNUTIL_GetBOMSize(261), 4);
-  EXPECT_EQ(KILNUTIL_GetBOMSize(1), 0);      // no mark bit
-  EXPECT_EQ(KILNUTIL_GetBOMSize(255), 0);
-  EXPECT_EQ(KILNUTIL_GetBOMSize(0x100), 0);  // mark bit on the code-page family
-  EXPECT_EQ(KILNUTIL_GetBOMSize(0x106), 0);
-}
-
-TEST(DetectUtf8, AsciiIsNotUtf8) {
-  EXPECT_EQ(detect("plain text, 7-bit only\r\n"), 512u);
-  EXPECT_EQ(detect(std::string(1000, 'x')), 512u);
-  EXPECT_EQ(detect(""), 512u);
-}
-
-TEST(DetectUtf8, SequencesAndTheirLimits) {
-  EXPECT_EQ(detect("caf\xC3\xA9"), 1u);
-  EXPECT_EQ(detect("\xE2\x82\xAC 5"), 1u);
-  EXPECT_EQ(detect("\xF0\x9F\x98\x80"), 1u);
-  // Overlong three-byte forms and encoded surrogates are not checked.
-  EXPECT_EQ(detect("\xE0\x80\x80"), 1u);
-  EXPECT_EQ(detect("\xED\xA0\x80"), 1u);
-  // C0, C1, F5-FF can't lead; a lone continuation byte neither.
-  for (const char* bad : {"a\xC0\x80", "a\xC1\xBF", "\xF5\x80\x80\x80", "\xFF", "\x80"}) {
-    EXPECT_EQ(detect(bad), 0u) << bad;
-  }
-  EXPECT_EQ(detect("\xC3\x41"), 0u);  // continuation byte expected
-}
-
-TEST(DetectUtf8, ABufferCutInsideASequenceStillPasses) {
-  EXPECT_EQ(detect("\xC3\xA9 and \xE2\x82"), 1u);
-  // The only non-ASCII byte is a lead byte at the very end: nothing was
-  // continued, so the buffer is ASCII.
-  EXPECT_EQ(detect("abc\xE2"), 512u);
-}
-
-TEST(DetectUtf8, LongTextFindsTheFaultAfterTheAsciiRuns) {
-  std::string text(4096, 'a');
-  EXPECT_EQ(detect(text + "\xC3\xA9"), 1u);
-  EXPECT_EQ(detect(text + "\xC3\xA9" + text + "\xFF" + text), 0u);
-  text[3000] = '\0';
-  EXPECT_NE(detect(text), 512u);
-}
-
-TEST(DetectUtf16, AZeroByteSendsUtf8OnToTheUtf16Tests) {
-  using namespace std::string_literals;
-  // Valid UTF-8 apart from the zero bytes: UTF-16LE by its line ends.
-  EXPECT_EQ(detect("a\0b\0\r\0\n\0"s), 2u);
-  EXPECT_EQ(detect("\0a\0b\0\r\0\n"s), 3u);
-}
-
-TEST(DetectUtf16, ZeroRatiosDecideWithoutLineEnds) {
-  using namespace std::string_literals;
-  EXPECT_EQ(detect("h\0e\0l\0l\0o\0"s), 2u);
-  EXPECT_EQ(detect("\0h\0e\0l\0l\0o"s), 3u);
-  // Both line-end kinds: no line-end answer, the ratios decide (LE here).
-  std::string mixed = "\r\0"s;
-  for (int i = 0; i < 12; ++i) mixed += "a\0"s;
-  EXPECT_EQ(detect(mixed + "\0\n"s), 2u);  // even zeros 2/28, odd 26/28
-  // Zero bytes at both positions: neither.
-  EXPECT_EQ(detect("\0\0ab\0\0cd"s), 0u);
+  const std::string as(4096, 'a');
+  std::string mixed_line_ends = "\r\0"s;  // both kinds: the zero ratios decide (even 2/28, odd 26/28: LE)
+  for (int i = 0; i < 12; ++i) mixed_line_ends += "a\0"s;
+  mixed_line_ends += "\0\n"s;
+  const struct {
+    std::string bytes;
+    int flags;
+    unsigned expected;
+  } cases[] = {
+      // Marks in their fixed order: FF FE first, so a UTF-32LE mark is UTF-16LE.
+      {"\xFF\xFE" "a\0"s, 0, 258}, {"\xFE\xFF\0a"s, 0, 259}, {"\xEF\xBB\xBF" "abc", 0, 257},
+      {"\xFF\xFE\0\0"s, 0, 258}, {"\0\0\xFE\xFF"s, 0, 261},
+      // Flag bit 0 means marks only (other bits don't count); marks cut short are none.
+      {"\xEF\xBB", 1, 0}, {"\xFF", 1, 0}, {"caf\xC3\xA9", 1, 0}, {"caf\xC3\xA9", 2, 1},
+      // ASCII is not UTF-8.
+      {"plain text, 7-bit only\r\n", 0, 512}, {std::string(1000, 'x'), 0, 512}, {"", 0, 512},
+      // UTF-8; overlong three-byte forms and encoded surrogates are not checked.
+      {"caf\xC3\xA9", 0, 1}, {"\xE2\x82\xAC 5", 0, 1}, {"\xF0\x9F\x98\x80", 0, 1}, {"\xE0\x80\x80", 0, 1},
+      {"\xED\xA0\x80", 0, 1},
+      // C0, C1, F5-FF can't lead, nor can a continuation byte; a continuation byte must follow a lead.
+      {"a\xC0\x80", 0, 0}, {"a\xC1\xBF", 0, 0}, {"\xF5\x80\x80\x80", 0, 0}, {"\xFF", 0, 0}, {"\x80", 0, 0},
+      {"\xC3\x41", 0, 0},
+      // A buffer cut inside a sequence passes; a lead byte alone at the end continued nothing: ASCII.
+      {"\xC3\xA9 and \xE2\x82", 0, 1}, {"abc\xE2", 0, 512},
+      // The fault found after long ASCII runs.
+      {as + "\xC3\xA9", 0, 1}, {as + "\xC3\xA9" + as + "\xFF" + as, 0, 0},
+      // Zero bytes send UTF-8 on to the UTF-16 tests: line ends, else the zero ratios, decide.
+      {"a\0b\0\r\0\n\0"s, 0, 2}, {"\0a\0b\0\r\0\n"s, 0, 3}, {"h\0e\0l\0l\0o\0"s, 0, 2},
+      {"\0h\0e\0l\0l\0o"s, 0, 3}, {mixed_line_ends, 0, 2}, {"\0\0ab\0\0cd"s, 0, 0}, {as + '\0' + as, 0, 0},
+  };
+  for (const auto& c : cases) EXPECT_EQ(detect(c.bytes, c.flags), c.expected) << testing::PrintToString(c.bytes);
+  // Marks and their sizes; the mark bit on the code-page family or without a
+  // known family means no mark.
+  const std::pair<unsigned, int> sizes[] = {{257, 3}, {258, 2}, {259, 2}, {260, 4}, {261, 4},
+                                            {1, 0},   {255, 0}, {0x100, 0}, {0x106, 0}};
+  for (const auto& [code, size] : sizes) EXPECT_EQ(KILNUTIL_GetBOMSize(code), size) << code;
 }
 
 TEST(DetectUtf16, ZeroPairsRuleOutTheLineEndTestOnlyWithBit2) {
@@ -124,29 +85,18 @@ TEST(DetectUtf16, ZeroPairsRuleOutTheLineEndTestOnlyWithBit2) {
   }
 }
 
-TEST(DetectGuess, OffMeansMarksOnly) {
+TEST(DetectGuess, SettingOffMeansMarksOnly) {
+  EXPECT_EQ(KILNUTIL_DetectEncodingNeedGuess_GetSet(1, 99), 7u);  // getting ignores the value
   GuessSetting setting(0);
+  EXPECT_EQ(KILNUTIL_DetectEncodingNeedGuess_GetSet(1, 0), 0u);
   EXPECT_EQ(detect("caf\xC3\xA9"), 0u);
-  EXPECT_EQ(detect("abc"), 0u);
   EXPECT_EQ(detect("\xEF\xBB\xBF" "abc"), 257u);
-}
-
-TEST(DetectGuess, FlagBit0MeansMarksOnly) {
-  EXPECT_EQ(detect("caf\xC3\xA9", 1), 0u);
-  EXPECT_EQ(detect("caf\xC3\xA9", 2), 1u);  // other bits don't count
-}
-
-TEST(DetectGuess, GetSetConvention) {
-  EXPECT_EQ(KILNUTIL_DetectEncodingNeedGuess_GetSet(1, 99), 7u);
-  GuessSetting setting(5);
-  EXPECT_EQ(KILNUTIL_DetectEncodingNeedGuess_GetSet(1, 0), 5u);
 }
 
 TEST(DetectStream, RestoresThePositionAndReadsOnlyTheStart) {
   TempFolder folder;
   const std::string path = folder.file("mixed.txt");
-  // ASCII for the first 100 bytes, then a byte that is not UTF-8.
-  write_file(path, std::string(100, 'a') + "\xFF");
+  write_file(path, std::string(100, 'a') + "\xFF");  // ASCII for 100 bytes, then a byte that is not UTF-8
   FILE* stream = std::fopen(path.c_str(), "rb");
   ASSERT_NE(stream, nullptr);
   std::fseek(stream, 7, SEEK_SET);
@@ -156,60 +106,39 @@ TEST(DetectStream, RestoresThePositionAndReadsOnlyTheStart) {
   EXPECT_EQ(KILNUTIL_DetectEncoding(stream, 101, 0), 0u);
   EXPECT_EQ(std::ftell(stream), 7);
   std::fclose(stream);
-}
-
-TEST(DetectStream, MarkOnlyReadsFourBytes) {
-  TempFolder folder;
-  const std::string path = folder.file("utf8.txt");
+  // Marks only: four bytes are read, so a fault in a fifth goes unseen.
   write_file(path, "ab\xC3\xA9");
   EXPECT_EQ(KILNUTIL_DetectEncodingFile(path.c_str(), 0, 0), 1u);
-  // Four bytes "ab" C3 A9 are still all that is read with guessing off...
   EXPECT_EQ(KILNUTIL_DetectEncodingFile(path.c_str(), 0, 1), 0u);
-  // ...and the UTF-8 test would have failed on a fifth byte had it been read.
   write_file(path, "\xEF\xBB\xBF" "a\xFF");
   EXPECT_EQ(KILNUTIL_DetectEncodingFile(path.c_str(), 0, 1), 257u);
 }
 
-TEST(DetectFile, EmptyAndMissingFilesAre255) {
+TEST(DetectFile, FilesWrittenByIconvEmptyAndMissing) {
   TempFolder folder;
-  const std::string path = folder.file("empty.txt");
+  const std::string path = folder.file("text.txt");
+  const std::string text = "Gr\xC3\xBC\xC3\x9F" "e, \xE6\x97\xA5\xE6\x9C\xAC\r\nzweite Zeile\r\n";
+  const struct {
+    const char* encoding;
+    std::string prefix;
+    std::string text;
+    unsigned expected;
+  } cases[] = {
+      {"UTF-16LE", "", text, 2},    {"UTF-16BE", "", text, 3}, {"UTF-16LE", "\xFF\xFE", text, 258},
+      {"UTF-16BE", "\xFE\xFF", text, 259}, {"UTF-8", "\xEF\xBB\xBF", text, 257}, {"UTF-8", "", text, 1},
+      {"SHIFT_JIS", "", "\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E\r\n", 0}, {"ASCII", "", "only ASCII here\n", 512},
+  };
+  for (const auto& c : cases) {
+    const auto converted = iconv_convert("UTF-8", c.encoding, c.text);
+    ASSERT_TRUE(converted.has_value()) << c.encoding;
+    write_file(path, c.prefix + *converted);
+    EXPECT_EQ(KILNUTIL_DetectEncodingFile(path.c_str(), 0, 0), c.expected) << c.encoding << " " << c.prefix.size();
+  }
   write_file(path, "");
   EXPECT_EQ(KILNUTIL_DetectEncodingFile(path.c_str(), 0, 0), 255u);
   EXPECT_EQ(KILNUTIL_DetectEncodingFile(folder.file("missing.txt").c_str(), 0, 0), 255u);
   EXPECT_EQ(KILNUTIL_DetectEncodingFile(nullptr, 0, 0), 255u);
   EXPECT_EQ(KILNUTIL_DetectEncoding(nullptr, 0, 0), 255u);
-}
-
-TEST(DetectFile, FilesWrittenByIconv) {
-  TempFolder folder;
-  const std::string text = "Gr\xC3\xBC\xC3\x9F" "e, \xE6\x97\xA5\xE6\x9C\xAC\r\nzweite Zeile\r\n";
-  const std::string japanese = "\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E\r\n";
-  struct Case {
-    const char* name;
-    const char* encoding;
-    std::string prefix;
-    const std::string& text;
-    unsigned expected;
-  };
-  const Case cases[] = {
-      {"le.txt", "UTF-16LE", "", text, 2},
-      {"be.txt", "UTF-16BE", "", text, 3},
-      {"le_mark.txt", "UTF-16LE", "\xFF\xFE", text, 258},
-      {"be_mark.txt", "UTF-16BE", "\xFE\xFF", text, 259},
-      {"utf8_mark.txt", "UTF-8", "\xEF\xBB\xBF", text, 257},
-      {"utf8.txt", "UTF-8", "", text, 1},
-      {"sjis.txt", "SHIFT_JIS", "", japanese, 0},
-  };
-  for (const Case& c : cases) {
-    const auto converted = iconv_convert("UTF-8", c.encoding, c.text);
-    ASSERT_TRUE(converted.has_value()) << c.encoding;
-    const std::string path = folder.file(c.name);
-    write_file(path, c.prefix + *converted);
-    EXPECT_EQ(KILNUTIL_DetectEncodingFile(path.c_str(), 0, 0), c.expected) << c.name;
-  }
-  const std::string ascii = folder.file("ascii.txt");
-  write_file(ascii, *iconv_convert("UTF-8", "ASCII", "only ASCII here\n"));
-  EXPECT_EQ(KILNUTIL_DetectEncodingFile(ascii.c_str(), 0, 0), 512u);
 }
 
 TEST(DetectSizes, GetSetAndRefusals) {
@@ -233,14 +162,11 @@ TEST(DetectSizes, ByExtension) {
   ASSERT_EQ(KILNUTIL_DetectEncoding_GetSet_BufferSize(1, &csv, 0), 0);
   ASSERT_EQ(KILNUTIL_DetectEncoding_GetSet_BufferSize(1, &txt, 1), 0);
   ASSERT_EQ(KILNUTIL_DetectEncoding_GetSet_BufferSize(1, &other, 2), 0);
-  EXPECT_EQ(KILNUTIL_DetectEncoding_GetBufSizeFromFilePath("C:\\data\\a.csv"), 1000u);
-  EXPECT_EQ(KILNUTIL_DetectEncoding_GetBufSizeFromFilePath("/data/A.CsV"), 1000u);
-  EXPECT_EQ(KILNUTIL_DetectEncoding_GetBufSizeFromFilePath("notes.TXT"), 2000u);
-  EXPECT_EQ(KILNUTIL_DetectEncoding_GetBufSizeFromFilePath("notes.txt.bak"), 0u);
-  EXPECT_EQ(KILNUTIL_DetectEncoding_GetBufSizeFromFilePath("C:\\my.csv\\file"), 0u);
-  EXPECT_EQ(KILNUTIL_DetectEncoding_GetBufSizeFromFilePath("/my.txt/file"), 0u);
-  EXPECT_EQ(KILNUTIL_DetectEncoding_GetBufSizeFromFilePath("noextension"), 0u);
-  EXPECT_EQ(KILNUTIL_DetectEncoding_GetBufSizeFromFilePath(nullptr), 0u);
+  const std::pair<const char*, unsigned> paths[] = {
+      {"C:\\data\\a.csv", 1000}, {"/data/A.CsV", 1000},   {"notes.TXT", 2000},   {"notes.txt.bak", 0},
+      {"C:\\my.csv\\file", 0},    {"/my.txt/file", 0},     {"noextension", 0},    {nullptr, 0},
+  };
+  for (const auto& [path, size] : paths) EXPECT_EQ(KILNUTIL_DetectEncoding_GetBufSizeFromFilePath(path), size) << (path ? path : "null");
   // Counts of 2^63 and more keep their top bit; the path result is the low 32 bits.
   double huge = 9223372036854775808.0 + 4096.0 * 1024;
   ASSERT_EQ(KILNUTIL_DetectEncoding_GetSet_BufferSize(1, &huge, 0), 0);

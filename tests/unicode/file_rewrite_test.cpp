@@ -50,29 +50,65 @@ int with_file_size_limit(rlim_t limit, const std::function<int()>& call) {
   return result;
 }
 
-TEST(InsertUtf8Mark, ResultCodes) {
-  TempFolder folder;
-  const std::string path = folder.file("a.txt");
-  write_file(path, "ascii only\n");
-  EXPECT_EQ(InsertUTF8BOM(path.c_str(), 1), 1);
-  EXPECT_EQ(read_file(path), "ascii only\n");
-  EXPECT_EQ(InsertUTF8BOM(path.c_str(), 0), 2);
-  EXPECT_EQ(read_file(path), kMark + "ascii only\n");
-  EXPECT_EQ(InsertUTF8BOM(path.c_str(), 0), 0);
-  EXPECT_EQ(read_file(path), kMark + "ascii only\n");
-  write_file(path, kCafe);
-  EXPECT_EQ(InsertUTF8BOM(path.c_str(), 1), 2);
-  EXPECT_EQ(read_file(path), kMark + kCafe);
-  write_file(path, "");
-  EXPECT_EQ(InsertUTF8BOM(path.c_str(), 0), -328);
-  EXPECT_EQ(InsertUTF8BOM(folder.file("missing").c_str(), 0), -329);
-  EXPECT_EQ(InsertUTF8BOM(nullptr, 0), -329);
-  EXPECT_EQ(folder.entry_count(), 1u);
+using Rewrite = std::function<int(const std::string&)>;
+
+Rewrite insert_mark(int only_if_non_ascii) {
+  return [=](const std::string& path) { return InsertUTF8BOM(path.c_str(), only_if_non_ascii); };
+}
+Rewrite to_code_page(int page) {
+  return [=](const std::string& path) { return ConvertUTF8TextFileToCodePageIfPossible(path.c_str(), page); };
+}
+Rewrite to_code_page_streamed(int page) {  // the path large files take
+  return [=](const std::string& path) { return kiln::unicode::convert_utf8_file_to_code_page(path.c_str(), page, 0); };
+}
+int make_utf16(const std::string& path) {
+  const std::u16string wide(path.begin(), path.end());
+  return KILNUTIL_MakeFileUTF16(wide.c_str());
 }
 
-TEST(InsertUtf8Mark, KeepsThePermissions) {
+// Each rewrite's result code and the file afterwards; no temporary file is left.
+TEST(Rewrites, ResultCodesAndContents) {
+  const std::string japanese = kMark + "\xE6\x97\xA5\xE6\x9C\xAC";
+  // Characters above U+FFFF go to the streamed path as their low 16 bits: U+F600, which 1252 has no form for.
+  const std::string emoji = kMark + "a\xF0\x9F\x98\x80";
+  const std::string cafe_1252 = *iconv_convert("UTF-8", "CP1252", kCafe);
+  const struct { std::string before; Rewrite rewrite; unsigned string_page; int result; std::string after; } cases[] = {
+      {"ascii only\n", insert_mark(1), 0, 1, "ascii only\n"},
+      {"ascii only\n", insert_mark(0), 0, 2, kMark + "ascii only\n"},
+      {kMark + "ascii only\n", insert_mark(0), 0, 0, kMark + "ascii only\n"},
+      {kCafe, insert_mark(1), 0, 2, kMark + kCafe},
+      {"", insert_mark(0), 0, -328, ""},
+      {kMark + kCafe, to_code_page(1252), 0, 1, cafe_1252},
+      {japanese, to_code_page(1252), 0, 0, japanese},
+      {japanese, to_code_page(932), 0, 1, "\x93\xFA\x96\x7B"},
+      {japanese, to_code_page(-1), 932, 1, "\x93\xFA\x96\x7B"},
+      {"\x93\xFA\x96\x7B", to_code_page(932), 0, -324, "\x93\xFA\x96\x7B"},
+      {kMark, to_code_page(1252), 0, -323, kMark},
+      {kMark + "abc", to_code_page(12345), 0, -330, kMark + "abc"},
+      {"", to_code_page(1252), 0, -328, ""},
+      {kMark + kCafe, to_code_page_streamed(1252), 0, 1, cafe_1252},
+      {emoji, to_code_page_streamed(1252), 0, 0, emoji},
+      {"\xEF\xBB", to_code_page_streamed(1252), 0, -324, "\xEF\xBB"},
+      {"abc", to_code_page_streamed(1252), 0, -324, "abc"},
+      {kMark + kCafe, make_utf16, 0, 0, kMark + kCafe},
+      {"", make_utf16, 0, 1, "\xFF\xFE"},
+      {"\xFF\xFE", make_utf16, 0, 0, "\xFF\xFE"},
+      {"caf\xE9", make_utf16, 1252, 0, "\xFF\xFE" + *iconv_convert("UTF-8", "UTF-16LE", "caf\xC3\xA9")},
+  };
   TempFolder folder;
-  const std::string path = folder.file("script.sh");
+  const std::string path = folder.file("a.txt");
+  for (const auto& c : cases) {
+    write_file(path, c.before);
+    const unsigned previous = c.string_page != 0 ? set_code_page_for_string_process(c.string_page) : 0;
+    EXPECT_EQ(c.rewrite(path), c.result) << testing::PrintToString(c.before);
+    if (c.string_page != 0) set_code_page_for_string_process(previous);
+    EXPECT_EQ(read_file(path), c.after) << testing::PrintToString(c.before);
+    EXPECT_EQ(folder.entry_count(), 1u);
+  }
+  EXPECT_EQ(InsertUTF8BOM(folder.file("missing").c_str(), 0), -329);
+  EXPECT_EQ(InsertUTF8BOM(nullptr, 0), -329);
+  EXPECT_EQ(ConvertUTF8TextFileToCodePageIfPossible(folder.file("missing").c_str(), 1252), -329);
+  // A rewritten file keeps its permissions.
   write_file(path, "echo hi\n");
   chmod(path.c_str(), 0751);
   ASSERT_EQ(InsertUTF8BOM(path.c_str(), 0), 2);
@@ -81,94 +117,17 @@ TEST(InsertUtf8Mark, KeepsThePermissions) {
   EXPECT_EQ(info.st_mode & 07777, 0751u);
 }
 
-TEST(ConvertToCodePage, ResultCodes) {
-  TempFolder folder;
-  const std::string path = folder.file("c.txt");
-  write_file(path, kMark + kCafe);
-  EXPECT_EQ(ConvertUTF8TextFileToCodePageIfPossible(path.c_str(), 1252), 1);
-  EXPECT_EQ(read_file(path), *iconv_convert("UTF-8", "CP1252", kCafe));
-  const std::string japanese = kMark + "\xE6\x97\xA5\xE6\x9C\xAC";
-  write_file(path, japanese);
-  EXPECT_EQ(ConvertUTF8TextFileToCodePageIfPossible(path.c_str(), 1252), 0);
-  EXPECT_EQ(read_file(path), japanese);
-  EXPECT_EQ(ConvertUTF8TextFileToCodePageIfPossible(path.c_str(), 932), 1);
-  EXPECT_EQ(read_file(path), "\x93\xFA\x96\x7B");
-  EXPECT_EQ(ConvertUTF8TextFileToCodePageIfPossible(path.c_str(), 932), -324);  // no mark any more
-  write_file(path, kMark);
-  EXPECT_EQ(ConvertUTF8TextFileToCodePageIfPossible(path.c_str(), 1252), -323);
-  write_file(path, kMark + "abc");
-  EXPECT_EQ(ConvertUTF8TextFileToCodePageIfPossible(path.c_str(), 12345), -330);
-  write_file(path, "");
-  EXPECT_EQ(ConvertUTF8TextFileToCodePageIfPossible(path.c_str(), 1252), -328);
-  EXPECT_EQ(ConvertUTF8TextFileToCodePageIfPossible(folder.file("missing").c_str(), 1252), -329);
-  EXPECT_EQ(folder.entry_count(), 1u);
-}
-
-TEST(ConvertToCodePage, NegativeCodePageIsTheEffectiveOne) {
-  TempFolder folder;
-  const std::string path = folder.file("c.txt");
-  write_file(path, kMark + "\xE4\xB8\xAD\xE6\x96\x87");
-  const unsigned previous = set_code_page_for_string_process(936);
-  EXPECT_EQ(ConvertUTF8TextFileToCodePageIfPossible(path.c_str(), -1), 1);
-  set_code_page_for_string_process(previous);
-  EXPECT_EQ(read_file(path), *iconv_convert("UTF-8", "CP936", "\xE4\xB8\xAD\xE6\x96\x87"));
-}
-
-TEST(ConvertToCodePage, LargeFilesStreamOneCharacterAtATime) {
-  TempFolder folder;
-  const std::string path = folder.file("big.txt");
-  using kiln::unicode::convert_utf8_file_to_code_page;
-  write_file(path, kMark + kCafe);
-  EXPECT_EQ(convert_utf8_file_to_code_page(path.c_str(), 1252, 0), 1);
-  EXPECT_EQ(read_file(path), *iconv_convert("UTF-8", "CP1252", kCafe));
-  // Characters above U+FFFF go as their low 16 bits alone: U+1F600 as U+F600,
-  // which 1252 has no form for.
-  const std::string emoji = kMark + "a\xF0\x9F\x98\x80";
-  write_file(path, emoji);
-  EXPECT_EQ(convert_utf8_file_to_code_page(path.c_str(), 1252, 0), 0);
-  EXPECT_EQ(read_file(path), emoji);
-  write_file(path, "\xEF\xBB");
-  EXPECT_EQ(convert_utf8_file_to_code_page(path.c_str(), 1252, 0), -324);
-  write_file(path, "abc");
-  EXPECT_EQ(convert_utf8_file_to_code_page(path.c_str(), 1252, 0), -324);
-}
-
-TEST(MakeFileUtf16, CreatesMissingFilesWithTheirFolders) {
+TEST(MakeFileUtf16, CreatesMissingFilesWithTheirFoldersAndTakesUtf8Paths) {
   TempFolder folder;
   const std::string path = folder.file("new/sub/w.txt");
-  std::u16string wide(path.begin(), path.end());
-  EXPECT_EQ(KILNUTIL_MakeFileUTF16(wide.c_str()), 1);
+  EXPECT_EQ(make_utf16(path), 1);
   EXPECT_EQ(read_file(path), "\xFF\xFE");
-  EXPECT_EQ(KILNUTIL_MakeFileUTF16(wide.c_str()), 0);  // already UTF-16LE
-  EXPECT_EQ(read_file(path), "\xFF\xFE");
-}
-
-TEST(MakeFileUtf16, LeavesOtherUnicodeAloneAndConvertsCodePageText) {
-  TempFolder folder;
-  const std::string path = folder.file("w.txt");
-  const std::u16string wide(path.begin(), path.end());
-  write_file(path, kMark + kCafe);
-  EXPECT_EQ(KILNUTIL_MakeFileUTF16(wide.c_str()), 0);
-  EXPECT_EQ(read_file(path), kMark + kCafe);
-  write_file(path, "");
-  EXPECT_EQ(KILNUTIL_MakeFileUTF16(wide.c_str()), 1);
-  EXPECT_EQ(read_file(path), "\xFF\xFE");
-  const unsigned previous = set_code_page_for_string_process(1252);
-  write_file(path, "caf\xE9");
-  EXPECT_EQ(KILNUTIL_MakeFileUTF16(wide.c_str()), 0);
-  set_code_page_for_string_process(previous);
-  EXPECT_EQ(read_file(path), "\xFF\xFE" + *iconv_convert("UTF-8", "UTF-16LE", "caf\xC3\xA9"));
-  EXPECT_EQ(folder.entry_count(), 1u);
-}
-
-TEST(MakeFileUtf16, Utf8PathAndDeleteFirst) {
-  TempFolder folder;
-  const std::string path = folder.file("d\xC3\xA9j\xC3\xA0.txt");
-  write_file(path, kMark + kCafe);
-  make_file_UTF16(path.c_str(), 0);
-  EXPECT_EQ(read_file(path), kMark + kCafe);
-  make_file_UTF16(path.c_str(), 1);
-  EXPECT_EQ(read_file(path), "\xFF\xFE");
+  const std::string utf8_path = folder.file("d\xC3\xA9j\xC3\xA0.txt");
+  write_file(utf8_path, kMark + kCafe);
+  make_file_UTF16(utf8_path.c_str(), 0);
+  EXPECT_EQ(read_file(utf8_path), kMark + kCafe);
+  make_file_UTF16(utf8_path.c_str(), 1);  // deleted first
+  EXPECT_EQ(read_file(utf8_path), "\xFF\xFE");
 }
 
 // ---- The original survives every failed rewrite.
@@ -176,24 +135,15 @@ TEST(MakeFileUtf16, Utf8PathAndDeleteFirst) {
 TEST(RewriteFailure, FileSizeLimitLeavesTheOriginal) {
   TempFolder folder;
   const std::string path = folder.file("limited.txt");
-  const std::string original = std::string(5000, 'x') + kCafe;
-  write_file(path, original);
-  EXPECT_EQ(with_file_size_limit(4096, [&] { return InsertUTF8BOM(path.c_str(), 0); }), -321);
-  EXPECT_EQ(read_file(path), original);
-  EXPECT_EQ(folder.entry_count(), 1u);
-
-  write_file(path, kMark + original);
-  EXPECT_EQ(with_file_size_limit(4096, [&] { return ConvertUTF8TextFileToCodePageIfPossible(path.c_str(), 1252); }),
-            -321);
-  EXPECT_EQ(read_file(path), kMark + original);
-  EXPECT_EQ(folder.entry_count(), 1u);
-
-  const std::string code_page_text(5000, 'y');
-  write_file(path, code_page_text);
-  const std::u16string wide(path.begin(), path.end());
-  EXPECT_EQ(with_file_size_limit(4096, [&] { return KILNUTIL_MakeFileUTF16(wide.c_str()); }), 0);
-  EXPECT_EQ(read_file(path), code_page_text);
-  EXPECT_EQ(folder.entry_count(), 1u);
+  const std::string text = std::string(5000, 'x') + kCafe;
+  const struct { std::string original; Rewrite rewrite; int result; } cases[] = {
+      {text, insert_mark(0), -321}, {kMark + text, to_code_page(1252), -321}, {std::string(5000, 'y'), make_utf16, 0}};
+  for (const auto& c : cases) {
+    write_file(path, c.original);
+    EXPECT_EQ(with_file_size_limit(4096, [&] { return c.rewrite(path); }), c.result);
+    EXPECT_EQ(read_file(path), c.original);
+    EXPECT_EQ(folder.entry_count(), 1u);
+  }
 }
 
 TEST(RewriteFailure, NoRoomForTheTemporaryName) {
@@ -225,47 +175,38 @@ TEST(RewriteFailure, ReadOnlyFolder) {
   EXPECT_EQ(folder.entry_count(), 1u);
 }
 
-TEST(RewriteFailure, AFileThatVanishesIsNotRecreated) {
+// A replacement whose original vanishes or is replaced meanwhile commits
+// nothing; one never committed leaves nothing behind.
+TEST(RewriteFailure, ReplacementsOnlyEverReplaceTheirOriginal) {
   using namespace kiln::unicode;
   TempFolder folder;
-  const std::string path = folder.file("gone.txt");
-  write_file(path, "old");
-  FileReplacement replacement(path.c_str());
-  ASSERT_TRUE(replacement.create());
-  ASSERT_TRUE(replacement.write("new", 3));
-  std::remove(path.c_str());
-  EXPECT_EQ(replacement.commit(), ReplaceStatus::kVanished);
-  EXPECT_EQ(folder.entry_count(), 0u);
-}
-
-TEST(RewriteFailure, AFileReplacedMeanwhileIsLeftToItsNewOwner) {
-  using namespace kiln::unicode;
-  TempFolder folder;
-  const std::string path = folder.file("swapped.txt");
-  write_file(path, "old");
-  FileReplacement replacement(path.c_str());
-  ASSERT_TRUE(replacement.create());
-  ASSERT_TRUE(replacement.write("new", 3));
-  write_file(folder.file("other"), "someone else's");
-  std::rename(folder.file("other").c_str(), path.c_str());
-  EXPECT_EQ(replacement.commit(), ReplaceStatus::kVanished);
-  EXPECT_EQ(read_file(path), "someone else's");
-  EXPECT_EQ(folder.entry_count(), 1u);
-}
-
-TEST(RewriteFailure, UncommittedReplacementsLeaveNothing) {
-  using namespace kiln::unicode;
-  TempFolder folder;
-  const std::string path = folder.file("kept.txt");
-  write_file(path, "old");
-  {
-    FileReplacement replacement(path.c_str());
-    ASSERT_TRUE(replacement.create());
-    ASSERT_TRUE(replacement.write("new", 3));
-    EXPECT_EQ(folder.entry_count(), 2u);
+  const std::string path = folder.file("old.txt");
+  const std::string other = folder.file("other");
+  const struct { const char* what; std::function<void()> meanwhile; const char* left; size_t entries; } cases[] = {
+      {"vanished", [&] { std::remove(path.c_str()); }, "", 0},
+      {"replaced",
+       [&] {
+         write_file(other, "someone else's");
+         std::rename(other.c_str(), path.c_str());
+       },
+       "someone else's", 1},
+      {"never committed", nullptr, "old", 1},
+  };
+  for (const auto& c : cases) {
+    write_file(path, "old");
+    {
+      FileReplacement replacement(path.c_str());
+      ASSERT_TRUE(replacement.create());
+      ASSERT_TRUE(replacement.write("new", 3));
+      EXPECT_EQ(folder.entry_count(), 2u);
+      if (c.meanwhile) {
+        c.meanwhile();
+        EXPECT_EQ(replacement.commit(), ReplaceStatus::kVanished) << c.what;
+      }
+    }
+    EXPECT_EQ(read_file(path), c.left) << c.what;
+    EXPECT_EQ(folder.entry_count(), c.entries) << c.what;
   }
-  EXPECT_EQ(read_file(path), "old");
-  EXPECT_EQ(folder.entry_count(), 1u);
 }
 
 }  // namespace

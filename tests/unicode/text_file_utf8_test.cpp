@@ -1,4 +1,5 @@
 #include "test_files.h"
+#include "unicode/utf16_stream_to_utf8.h"
 
 #include <kilnutil/frame.h>
 #include <kilnutil/unicode.h>
@@ -7,7 +8,9 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <random>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -33,9 +36,7 @@ std::string temporary_path(const TextFileToUTF8Context& context) {
 class OpenAsUtf8 : public ::testing::Test {
 protected:
   void SetUp() override {
-    const char* old = std::getenv("TMPDIR");
-    saved_tmpdir_ = old != nullptr ? old : "";
-    had_tmpdir_ = old != nullptr;
+    if (const char* old = std::getenv("TMPDIR")) saved_tmpdir_ = old;
     copies_.emplace();
     setenv("TMPDIR", copies_->path().c_str(), 1);
     KILNUTIL_UNICODE_open_text_file_to_UTF8_INIT(&context_);
@@ -44,7 +45,7 @@ protected:
     context_.guess = 1;
   }
   void TearDown() override {
-    if (had_tmpdir_) setenv("TMPDIR", saved_tmpdir_.c_str(), 1);
+    if (saved_tmpdir_) setenv("TMPDIR", saved_tmpdir_->c_str(), 1);
     else unsetenv("TMPDIR");
   }
 
@@ -61,109 +62,65 @@ protected:
   TextFileToUTF8Context context_;
   std::string path_;
   FILE* caller_stream_ = nullptr;
-  std::string saved_tmpdir_;
-  bool had_tmpdir_ = false;
+  std::optional<std::string> saved_tmpdir_;
 };
 
-TEST_F(OpenAsUtf8, Utf16LittleEndianIsConvertedIntoATemporaryCopy) {
-  FILE* stream = begin("\xFF\xFE" + *iconv_convert("UTF-8", "UTF-16LE", kText));
-  ASSERT_NE(stream, nullptr);
-  EXPECT_EQ(stream, context_.converted_stream);
-  const std::string copy = temporary_path(context_);
-  EXPECT_EQ(copy.rfind(copies_->path().string() + "/VU8", 0), 0u) << copy;
-  EXPECT_EQ(context_.mark_size, 0);
-  EXPECT_EQ(read_rest(stream), kText);
-  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
-  EXPECT_EQ(context_.converted_stream, nullptr);
-  EXPECT_EQ(context_.temp_path[0], 0);
-  EXPECT_EQ(copies_->entry_count(), 0u);  // the copy is gone
-}
-
-TEST_F(OpenAsUtf8, TheCopyCanStartWithAMark) {
-  context_.write_mark = 1;
-  FILE* stream = begin(*iconv_convert("UTF-8", "UTF-16LE", kText));  // no mark: guessed
-  ASSERT_NE(stream, nullptr);
-  EXPECT_EQ(context_.mark_size, 3);
-  EXPECT_EQ(read_rest(stream), "\xEF\xBB\xBF" + kText);
-  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
-  EXPECT_EQ(copies_->entry_count(), 0u);
-}
-
-TEST_F(OpenAsUtf8, CodePageTextUsesTheEffectiveCodePage) {
-  const unsigned previous = set_code_page_for_string_process(932);
+// Everything but UTF-8 and big-endian text goes into a copy in $TMPDIR,
+// which END deletes.
+TEST_F(OpenAsUtf8, ConvertedCopies) {
+  using namespace std::string_literals;
   const std::string japanese = "\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E\n";
-  FILE* stream = begin(*iconv_convert("UTF-8", "SHIFT_JIS", japanese));
-  set_code_page_for_string_process(previous);
-  ASSERT_NE(stream, nullptr);
-  EXPECT_EQ(read_rest(stream), japanese);
-  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
-  EXPECT_EQ(copies_->entry_count(), 0u);
+  // Long enough to be converted in pieces, with a surrogate pair across the first boundary.
+  const std::string long_text = std::string(kiln::unicode::kUtf16ChunkUnits - 1, 'x') + "\xF0\x9F\x98\x80" + kText;
+  const struct { const char* what; std::string bytes; unsigned code_page; int write_mark, guess; std::string copy; } cases[] = {
+      {"UTF-16LE", "\xFF\xFE" + *iconv_convert("UTF-8", "UTF-16LE", long_text), 1252, 0, 1, long_text},
+      {"unmarked UTF-16LE, guessed; mark asked for", *iconv_convert("UTF-8", "UTF-16LE", kText), 1252, 1, 1,
+       "\xEF\xBB\xBF" + kText},
+      {"code-page text in the effective code page", *iconv_convert("UTF-8", "SHIFT_JIS", japanese), 932, 0, 1, japanese},
+      {"plain ASCII", "just ASCII\n", 1252, 0, 1, "just ASCII\n"},
+      {"unmarked UTF-16 without guessing: code-page text up to its first zero byte", "a\0b\0"s, 1252, 0, 0, "a"},
+      {"an empty file", "", 1252, 1, 1, "\xEF\xBB\xBF"},
+  };
+  for (const auto& c : cases) {
+    context_.write_mark = c.write_mark;
+    context_.guess = c.guess;
+    const unsigned previous = set_code_page_for_string_process(c.code_page);
+    FILE* stream = begin(c.bytes);
+    set_code_page_for_string_process(previous);
+    ASSERT_NE(stream, nullptr) << c.what;
+    EXPECT_EQ(stream, context_.converted_stream) << c.what;
+    EXPECT_EQ(temporary_path(context_).rfind(copies_->path().string() + "/VU8", 0), 0u) << c.what;
+    EXPECT_EQ(context_.mark_size, c.write_mark ? 3 : 0) << c.what;
+    EXPECT_EQ(read_rest(stream), c.copy) << c.what;
+    KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
+    EXPECT_EQ(context_.converted_stream, nullptr) << c.what;
+    EXPECT_EQ(context_.temp_path[0], 0) << c.what;
+    EXPECT_EQ(copies_->entry_count(), 0u) << c.what;
+  }
 }
 
-TEST_F(OpenAsUtf8, PlainAsciiIsCopiedToo) {
-  FILE* stream = begin("just ASCII\n");
-  ASSERT_NE(stream, nullptr);
-  EXPECT_EQ(stream, context_.converted_stream);
-  EXPECT_EQ(copies_->entry_count(), 1u);
-  EXPECT_EQ(read_rest(stream), "just ASCII\n");
-  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
-  EXPECT_EQ(copies_->entry_count(), 0u);
-}
-
-TEST_F(OpenAsUtf8, Utf8IsReadInPlacePastItsMark) {
-  FILE* stream = begin("\xEF\xBB\xBF" + kText);
-  EXPECT_EQ(stream, caller_stream_);
-  EXPECT_EQ(context_.mark_size, 3);
-  EXPECT_EQ(read_rest(stream), kText);
-  EXPECT_EQ(context_.converted_stream, nullptr);
-  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
-}
-
-TEST_F(OpenAsUtf8, KeepMarkLeavesTheStreamAtTheStart) {
-  context_.keep_mark = 1;
-  FILE* stream = begin("\xEF\xBB\xBF" + kText);
-  EXPECT_EQ(stream, caller_stream_);
-  EXPECT_EQ(context_.mark_size, 3);
-  EXPECT_EQ(read_rest(stream), "\xEF\xBB\xBF" + kText);
-  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
-}
-
-TEST_F(OpenAsUtf8, BigEndianIsHandedBackAtOffsetZero) {
-  FILE* stream = begin("\xFE\xFF" + *iconv_convert("UTF-8", "UTF-16BE", kText));
-  EXPECT_EQ(stream, caller_stream_);
-  EXPECT_EQ(context_.mark_size, 2);
-  EXPECT_EQ(std::ftell(stream), 0);
-  EXPECT_EQ(copies_->entry_count(), 0u);
-  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
-}
-
-TEST_F(OpenAsUtf8, NoConversionOnlySkipsTheMark) {
-  context_.no_conversion = 1;
-  FILE* stream = begin("\xFF\xFE" "a\0b\0" + std::string(1, '\0'));
-  EXPECT_EQ(stream, caller_stream_);
-  EXPECT_EQ(context_.mark_size, 2);
-  EXPECT_EQ(std::ftell(stream), 2);
-  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
-}
-
-TEST_F(OpenAsUtf8, GuessOffTakesUnmarkedUtf16AsCodePageText) {
-  context_.guess = 0;
-  const unsigned previous = set_code_page_for_string_process(1252);
-  FILE* stream = begin(*iconv_convert("UTF-8", "UTF-16LE", "ab"));
-  set_code_page_for_string_process(previous);
-  // "a" 00 "b" 00 as code-page text ends at the first zero byte.
-  ASSERT_NE(stream, nullptr);
-  EXPECT_EQ(read_rest(stream), "a");
-  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
-}
-
-TEST_F(OpenAsUtf8, EmptyFileGivesAnEmptyCopy) {
-  context_.write_mark = 1;
-  FILE* stream = begin("");
-  ASSERT_NE(stream, nullptr);
-  EXPECT_EQ(read_rest(stream), "\xEF\xBB\xBF");
-  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
-  EXPECT_EQ(copies_->entry_count(), 0u);
+// UTF-8 (and anything with conversion off) is read in place past its mark;
+// big-endian text is handed back at its start.
+TEST_F(OpenAsUtf8, StreamsHandedBackInPlace) {
+  using namespace std::string_literals;
+  const struct { const char* what; std::string bytes; int keep_mark, no_conversion, mark_size; long position; } cases[] = {
+      {"UTF-8", "\xEF\xBB\xBF" + kText, 0, 0, 3, 3},
+      {"UTF-8, mark kept", "\xEF\xBB\xBF" + kText, 1, 0, 3, 0},
+      {"UTF-16BE", "\xFE\xFF" + *iconv_convert("UTF-8", "UTF-16BE", kText), 0, 0, 2, 0},
+      {"UTF-16LE, no conversion", "\xFF\xFE" "a\0b\0\0"s, 0, 1, 2, 2},
+  };
+  for (const auto& c : cases) {
+    context_.keep_mark = c.keep_mark;
+    context_.no_conversion = c.no_conversion;
+    FILE* stream = begin(c.bytes);
+    EXPECT_EQ(stream, caller_stream_) << c.what;
+    EXPECT_EQ(context_.mark_size, c.mark_size) << c.what;
+    EXPECT_EQ(std::ftell(stream), c.position) << c.what;
+    EXPECT_EQ(read_rest(stream), c.bytes.substr(static_cast<size_t>(c.position))) << c.what;
+    EXPECT_EQ(context_.converted_stream, nullptr) << c.what;
+    EXPECT_EQ(copies_->entry_count(), 0u) << c.what;
+    KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
+  }
 }
 
 TEST_F(OpenAsUtf8, TextThatConvertsToNothingFallsBack) {
@@ -183,6 +140,40 @@ TEST_F(OpenAsUtf8, MissingSettingsLeaveTheStreamAlone) {
   EXPECT_EQ(std::ftell(stream), 0);
   std::fclose(stream);
   EXPECT_EQ(KILNUTIL_UNICODE_open_text_file_to_UTF8_BEGIN(nullptr, nullptr), nullptr);
+}
+
+// The chunked conversion against the whole text converted at once, with
+// chunks small enough that pairs, lone surrogates, a zero unit, an odd last
+// byte and the byte limit all meet chunk boundaries.
+TEST(Utf16StreamToUtf8, MatchesTheWholeTextConversionAtEveryChunkSize) {
+  std::mt19937 random(7);
+  const KILN_WCHAR kUnits[] = {u'a', 0x00E9, 0x20AC, 0xD83D, 0xDE00, 0xDC00, 0xDBFF};
+  for (int round = 0; round < 400; ++round) {
+    std::u16string units;  // the model: units up to the first zero, an odd last byte a unit of its own
+    for (int i = static_cast<int>(random() % 24); i > 0; --i) {
+      units += random() % 40 == 0 ? KILN_WCHAR{0} : kUnits[random() % std::size(kUnits)];
+    }
+    std::string bytes(reinterpret_cast<const char*>(units.data()), units.size() * 2);  // little-endian host
+    if (random() % 3 == 0) {
+      bytes += random() % 2 ? 'z' : '\0';
+      units += static_cast<KILN_WCHAR>(bytes.back());
+    }
+    std::string expected(units.size() * 3 + 1, '\0');
+    expected.resize(static_cast<size_t>(std::max(0, KILNUTIL_UNICODE_UTF16_to_UTF8_buffers(
+                                                        expected.data(), static_cast<int>(expected.size()), units.c_str()))));
+    for (const size_t chunk_units : {2, 3, 5, 64}) {
+      FILE* in = std::tmpfile();
+      FILE* out = std::tmpfile();
+      std::fwrite((bytes + "A").data(), 1, bytes.size() + 1, in);  // the "A" lies past the byte limit
+      std::rewind(in);
+      ASSERT_EQ(kiln::unicode::utf16le_stream_to_utf8(in, bytes.size(), out, chunk_units),
+                kiln::unicode::StreamConversion::kOk);
+      std::rewind(out);
+      EXPECT_EQ(read_rest(out), expected) << "round " << round << ", chunks of " << chunk_units;
+      std::fclose(in);
+      std::fclose(out);
+    }
+  }
 }
 
 TEST(OpenAsUtf8Init, ClearsTheWholeRecord) {

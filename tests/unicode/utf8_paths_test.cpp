@@ -61,29 +61,25 @@ TEST(Utf8Paths, CreateFileDispositions) {
   EXPECT_EQ(KILNUTIL_UTF8_CreateFile(path.c_str(), kRead, 0, nullptr, 9, 0, nullptr), INVALID_HANDLE_VALUE);
 }
 
+// UTF-16 text is written as ANSI text (the C locale's ANSI code page is
+// 1252), its first two bytes skipped even without a mark; anything else
+// leaves the destination empty.
 TEST(UnicodeFileToAnsi, WritesUtf16TextAsAnsiText) {
   TempFolder folder;
   const std::string source = folder.file("w.txt");
   const std::string target = folder.file("a.txt");
-  write_file(source, "\xFF\xFE" + *iconv_convert("UTF-8", "UTF-16LE", "caf\xC3\xA9\r\n"));
-  EXPECT_EQ(KILNUTIL_ConvertUNICODEtoMBCS(source.c_str(), target.c_str()), 1);
-  EXPECT_EQ(read_file(target), "caf\xE9\r\n");  // the C locale's ANSI code page is 1252
-  // Without a mark the first two bytes are still skipped.
-  write_file(source, *iconv_convert("UTF-8", "UTF-16LE", "xy\r\n"));
-  EXPECT_EQ(KILNUTIL_ConvertUNICODEtoMBCS(source.c_str(), target.c_str()), 1);
-  EXPECT_EQ(read_file(target), "y\r\n");
-}
-
-TEST(UnicodeFileToAnsi, OtherFilesWriteNothing) {
-  TempFolder folder;
-  const std::string source = folder.file("n.txt");
-  const std::string target = folder.file("a.txt");
-  write_file(target, "previous");
-  write_file(source, "plain narrow text\n");
-  EXPECT_EQ(KILNUTIL_ConvertUNICODEtoMBCS(source.c_str(), target.c_str()), 0);
-  EXPECT_EQ(read_file(target), "");
-  write_file(source, "\xFE\xFF" + *iconv_convert("UTF-8", "UTF-16BE", "big"));
-  EXPECT_EQ(KILNUTIL_ConvertUNICODEtoMBCS(source.c_str(), target.c_str()), 0);
+  const struct { std::string source; int result; std::string target; } cases[] = {
+      {"\xFF\xFE" + *iconv_convert("UTF-8", "UTF-16LE", "caf\xC3\xA9\r\n"), 1, "caf\xE9\r\n"},
+      {*iconv_convert("UTF-8", "UTF-16LE", "xy\r\n"), 1, "y\r\n"},
+      {"plain narrow text\n", 0, ""},
+      {"\xFE\xFF" + *iconv_convert("UTF-8", "UTF-16BE", "big"), 0, ""},
+  };
+  for (const auto& c : cases) {
+    write_file(source, c.source);
+    write_file(target, "previous");
+    EXPECT_EQ(KILNUTIL_ConvertUNICODEtoMBCS(source.c_str(), target.c_str()), c.result) << c.target;
+    EXPECT_EQ(read_file(target), c.target);
+  }
   EXPECT_EQ(KILNUTIL_ConvertUNICODEtoMBCS(folder.file("missing").c_str(), target.c_str()), 0);
   EXPECT_EQ(KILNUTIL_ConvertUNICODEtoMBCS(source.c_str(), folder.file("no/such/dir").c_str()), 0);
 }

@@ -35,6 +35,15 @@ std::string big_endian_to_utf8(const std::string& bytes) {
   return text;
 }
 
+// Copies a converted copy through a fixed buffer: false on a short write.
+bool copy_stream(FILE* stream, FILE* out) {
+  char buffer[65536];
+  for (size_t n; (n = std::fread(buffer, 1, sizeof buffer, stream)) > 0;) {
+    if (std::fwrite(buffer, 1, n, out) != n) return false;
+  }
+  return true;
+}
+
 struct Options {
   const char* input = nullptr;
   const char* output = nullptr;
@@ -76,14 +85,22 @@ int run_to_utf8(Args args) {
   const bool big_endian = (code & 0xFF) == 3;
   FILE* stream = KILNUTIL_UNICODE_open_text_file_to_UTF8_BEGIN(opened, &context);
   if (stream == nullptr) return input_error(std::string("cannot convert '") + options.input + "'");
-  std::string text = read_all(stream);
-  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context);
+  // A converted copy is streamed out; the file itself (which OUT may name) is
+  // read whole before OUT is opened.
+  const bool streamed = !big_endian && stream == context.converted_stream;
+  std::string text;
+  if (!streamed) text = read_all(stream);
   if (big_endian) text = big_endian_to_utf8(text.substr(context.mark_size));
 
   FILE* out = options.output != nullptr ? std::fopen(options.output, "wb") : stdout;
-  if (out == nullptr) return input_error(std::string("cannot write '") + options.output + "'");
-  const bool written = std::fwrite(text.data(), 1, text.size(), out) == text.size();
-  if (out != stdout && std::fclose(out) != 0) return input_error(std::string("cannot write '") + options.output + "'");
+  bool written = false;
+  if (out != nullptr) {
+    written = streamed ? copy_stream(stream, out) : std::fwrite(text.data(), 1, text.size(), out) == text.size();
+  }
+  KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context);
+  if (out == nullptr || (out != stdout && std::fclose(out) != 0)) {
+    return input_error(std::string("cannot write '") + options.output + "'");
+  }
   return written ? kOk : input_error("write failed");
 }
 
