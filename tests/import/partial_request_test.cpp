@@ -2,12 +2,15 @@
 // indices 0..500 and compared with every query; then the stated cases.
 #include <kilnutil/import.h>
 
+#include "import/partial_test_support.h"
+
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <random>
 #include <string>
 #include <vector>
+
+using namespace partial_test;
 
 namespace {
 
@@ -114,12 +117,11 @@ TEST(PartialRequest, RandomRequestsMatchTheirExpansion) {
     int expected_begin = from;
     while (expected_begin <= kLimit && !held[expected_begin]) ++expected_begin;
     ASSERT_EQ(found, expected_begin <= kLimit) << request << " from " << from;
-    if (found) {
-      int expected_end = expected_begin;
-      while (expected_end + 1 <= kLimit && held[expected_end + 1]) ++expected_end;
-      ASSERT_EQ(begin, expected_begin) << request;
-      ASSERT_EQ(end, expected_end) << request;
-    }
+    int expected_end = expected_begin;
+    while (found && expected_end + 1 <= kLimit && held[expected_end + 1]) ++expected_end;
+    if (!found) expected_begin = expected_end = -1;  // no further run
+    ASSERT_EQ(begin, expected_begin) << request;
+    ASSERT_EQ(end, expected_end) << request;
   }
 }
 
@@ -145,89 +147,54 @@ TEST(PartialRequest, StatedCases) {
 TEST(PartialRequest, TextWithoutItemsKeepsParts) {
   ImportFilesPartialParts parts;
   ASSERT_TRUE(parts.Parse("2:4"));
-  EXPECT_FALSE(parts.Parse("abc"));
-  EXPECT_FALSE(parts.Parse(""));
-  EXPECT_FALSE(parts.Parse(nullptr));
-  EXPECT_EQ(parts.GetPartialParts(), 1);
-  EXPECT_TRUE(parts.Check(3));
+  for (const char* request : {"abc", "", static_cast<const char*>(nullptr)}) EXPECT_FALSE(parts.Parse(request));
+  EXPECT_EQ(describe(parts), "1:3");
   ASSERT_TRUE(parts.Parse("7"));
-  EXPECT_EQ(parts.GetPartialParts(), 1);
-  EXPECT_FALSE(parts.Check(3));
+  EXPECT_EQ(describe(parts), "6:6");
 }
 
-TEST(PartialRequest, Suffixes) {
+// Suffixes apply to every part; selection clauses need ":" before them.
+TEST(PartialRequest, SuffixesAndClauses) {
+  const struct {
+    const char* request;
+    const char* parts;
+  } cases[] = {
+      {"1:5 8#", "0:4 #; 7:7 #"},
+      {"1:5/2", "0:4 /2"},                 // the suffix is not read as an item
+      {"4*3", "3:3 *3"},
+      {"2*3/x", "1:1; 2:2"},               // "/" wins over "*"; no integer after it: no suffix
+      {"/7", "6:6 /7"},                    // with nothing before it, it is an item as well
+      {"1/12345678", "0:0 /12345"},        // six characters at most
+      {"1:0|yave-1y", "0:-1 yave1y"},
+      {"2:30|3-7d|max-q", "1:29 3-7d max1q"},
+      {"4|2-3", "3:3; 1:1; 2:2"},          // without ":" its numbers are plain items
+  };
+  for (const auto& c : cases) EXPECT_EQ(parsed(c.request), c.parts) << c.request;
   ImportFilesPartialParts parts;
   ASSERT_TRUE(parts.Parse("1:5 8#"));
-  EXPECT_STREQ(parts.GetFlipShift(0), "#");
-  EXPECT_STREQ(parts.GetFlipShift(1), "#");
   EXPECT_EQ(parts.GetFlipShift(2), nullptr);
-  ASSERT_TRUE(parts.Parse("1:5/2"));
-  EXPECT_STREQ(parts.GetFlipShift(0), "/2");
-  EXPECT_EQ(parts.GetPart(0)->end, 4);  // the suffix is not read as an item
-  ASSERT_TRUE(parts.Parse("4*3"));
-  EXPECT_STREQ(parts.GetFlipShift(0), "*3");
-  EXPECT_EQ(parts.GetPartialParts(), 1);
-  // "/" wins over "*"; text after it that is no integer gives no suffix.
-  ASSERT_TRUE(parts.Parse("2*3/x"));
-  EXPECT_STREQ(parts.GetFlipShift(0), "");
-  EXPECT_EQ(parts.GetPartialParts(), 2);
-  // A suffix with nothing before it stays in the text as well.
-  ASSERT_TRUE(parts.Parse("/7"));
-  EXPECT_STREQ(parts.GetFlipShift(0), "/7");
-  EXPECT_EQ(parts.GetPart(0)->begin, 6);
-  // At most six characters are kept.
-  ASSERT_TRUE(parts.Parse("1/12345678"));
-  EXPECT_STREQ(parts.GetFlipShift(0), "/12345");
-}
-
-TEST(PartialRequest, SelectionClauses) {
-  ImportFilesPartialParts parts;
   ASSERT_TRUE(parts.Parse("1:0|yave-1y"));
-  const ImportFilesPartialPart* part = parts.GetPart(0);
-  EXPECT_STREQ(part->name, "yave");
-  EXPECT_EQ(part->special_count, 1);
-  EXPECT_EQ(part->special_unit, 'y');
-  EXPECT_EQ(part->count, 1);
-  EXPECT_EQ(part->skip, 0);
   EXPECT_EQ(parts.GetAveAcrossYears(), 'y');
-
   ASSERT_TRUE(parts.Parse("2:30|3-7d|max-q"));
-  part = parts.GetPart(0);
-  EXPECT_EQ(part->count, 3);
-  EXPECT_EQ(part->skip, 7);
-  EXPECT_EQ(part->skip_unit, 'd');
-  EXPECT_STREQ(part->name, "max");
-  EXPECT_EQ(part->special_count, 1);
-  EXPECT_EQ(part->special_unit, 'q');
   EXPECT_EQ(parts.GetAveAcrossYears(), 0);
   EXPECT_TRUE(ImportFilesPartialParts::IsAveAcrossYears("yave"));
   EXPECT_FALSE(ImportFilesPartialParts::IsAveAcrossYears("ave"));
   EXPECT_FALSE(ImportFilesPartialParts::IsAveAcrossYears(nullptr));
-
-  // A clause needs ":" before it; on its own it is ignored text.
-  ASSERT_TRUE(parts.Parse("4|2-3"));
-  EXPECT_EQ(parts.GetPart(0)->count, 1);
-  EXPECT_EQ(parts.GetPart(0)->end, 3);
 }
 
 TEST(PartialRequest, SkipTextReading) {
   ImportFilesPartialPart part{};
+  part.include = 1;
   EXPECT_FALSE(skip_str_to_partial("", &part, ""));
   EXPECT_FALSE(skip_str_to_partial(nullptr, &part, nullptr));
-  EXPECT_EQ(part.count, 0);
+  EXPECT_EQ(describe(part), "0:0 0-0");
   EXPECT_TRUE(skip_str_to_partial("m", &part, ""));
-  EXPECT_EQ(part.count, 1);
-  EXPECT_EQ(part.skip, 1);
-  EXPECT_EQ(part.skip_unit, 'm');
+  EXPECT_EQ(describe(part), "0:0 1-1m");
   EXPECT_TRUE(skip_str_to_partial("12", &part, "4"));
-  EXPECT_EQ(part.count, 4);
-  EXPECT_EQ(part.skip, 12);
-  EXPECT_EQ(part.skip_unit, 0);
+  EXPECT_EQ(describe(part), "0:0 4-12");
   part.count = 0;
   EXPECT_TRUE(skip_str_to_partial("", &part, "averages_across_all"));
-  EXPECT_STREQ(part.name, "averages_acr");  // twelve characters at most
-  EXPECT_EQ(part.count, 1);
-  EXPECT_EQ(part.special_count, 0);
+  EXPECT_EQ(describe(part), "0:0 1-12 averages_acr0");  // twelve characters of the name at most
   EXPECT_FALSE(skip_str_to_partial("1", nullptr, "2"));
 }
 
