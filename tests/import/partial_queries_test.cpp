@@ -117,15 +117,6 @@ TEST(PartialQueries, PartsArrayThrowsOutOfRange) {
   EXPECT_EQ(array.GetSize(), 1);
 }
 
-tagImpFilePartialOpt options(int enabled, const char* rows, const char* cols, int row_shift) {
-  tagImpFilePartialOpt opt{};
-  opt.enabled = enabled;
-  std::strcpy(opt.rows, rows);
-  std::strcpy(opt.cols, cols);
-  opt.row_shift = row_shift;
-  return opt;
-}
-
 // The wanted rows and columns among the first eight, as "rows/cols".
 std::string wanted(const ImportFilesPartials& partials) {
   std::string s;
@@ -137,18 +128,18 @@ std::string wanted(const ImportFilesPartials& partials) {
 
 TEST(PartialQueries, ParseOptions) {
   ImportFilesPartials partials;
-  tagImpFilePartialOpt opt = options(1, "3:5", "", 1);
+  tagImpFilePartialOpt opt{1, 0, "3:5", "", 1, 0};
   ASSERT_TRUE(parse_partial_range(&partials, &opt));
   EXPECT_EQ(wanted(partials), "r..rrr../cccccccc");  // the header row is kept
   EXPECT_TRUE(partials.CheckCol(40));
   EXPECT_TRUE(partials.Check(4, 40));
   EXPECT_FALSE(partials.Check(6, 0));
 
-  opt = options(1, "", "~2", 0);
+  opt = tagImpFilePartialOpt{1, 0, "", "~2", 0, 0};
   ASSERT_TRUE(parse_partial_range(&partials, &opt));
   EXPECT_EQ(wanted(partials), "rrrrrrrr/........");  // only "~" items: nothing wanted
 
-  opt = options(0, "1", "1", 0);
+  opt = tagImpFilePartialOpt{0, 0, "1", "1", 0, 0};
   EXPECT_FALSE(parse_partial_range(&partials, &opt));
   EXPECT_EQ(partials.rows.GetPartialParts() + partials.cols.GetPartialParts(), 0);
   EXPECT_FALSE(parse_partial_range(nullptr, &opt));
@@ -156,7 +147,7 @@ TEST(PartialQueries, ParseOptions) {
 
 TEST(PartialQueries, UnterminatedRequestBufferIsBounded) {
   ImportFilesPartials partials;
-  tagImpFilePartialOpt opt = options(1, "", "", 0);
+  tagImpFilePartialOpt opt{1, 0, "", "", 0, 0};
   std::memset(opt.rows, '7', sizeof opt.rows);  // no terminator
   EXPECT_TRUE(parse_partial_range(&partials, &opt));
   EXPECT_EQ(partials.rows.GetPartialParts(), 1);
