@@ -95,7 +95,8 @@ TEST(RangeAlgebra, ContainmentIsSubset) {
     // Covering both dimensions without being "all" is a known blind spot.
     if (KILNUTIL_IsRangeAllRows(&outer) && KILNUTIL_IsRangeAllColumns(&outer) && !KILNUTIL_IsRangeAll(&outer)) continue;
     for (const CellRange& inner : ranges()) {
-      const bool subset = every_cell([&](int row, int col) { return !model_has(inner, row, col) || model_has(outer, row, col); });
+      const bool subset =
+          every_cell([&](int row, int col) { return !model_has(inner, row, col) || model_has(outer, row, col); });
       ASSERT_EQ(KILNUTIL_IsRangeInRange(&inner, &outer), subset ? 1 : 0) << show(inner) << " in " << show(outer);
     }
   }
@@ -149,13 +150,16 @@ TEST(RangeAlgebra, BoundingRangeOfClosedRangesIsSmallestBox) {
   }
 }
 
-TEST(RangeSpecialValues, AllTestsKeepTheirBlindSpots) {
-  CellRange whole{0, 0, -1, -1}, unset, odd{0, kAll, -1, 5};
+TEST(RangeSpecialValues, UnsetWholeAndEmpty) {
+  CellRange whole{0, 0, -1, -1}, unset, odd{0, kAll, -1, 5}, empty, out{};
   KILNUTIL_InitRange(&unset);
+  KILNUTIL_InitEmptyRange(&empty);
   EXPECT_EQ(KILNUTIL_IsRangeAll(&whole), 1);
   EXPECT_EQ(KILNUTIL_IsRangeAll(&unset), 1);
-  EXPECT_EQ(KILNUTIL_IsRangeAll(&odd), 0);
+  EXPECT_EQ(KILNUTIL_IsRangeAll(&odd), 0);  // all rows and all columns, yet not "all"
   EXPECT_EQ(KILNUTIL_IsRangeAllRows(&odd) + KILNUTIL_IsRangeAllColumns(&odd), 2);
+  EXPECT_EQ(KILNUTIL_IntersectRange(&whole, &empty, &out), 0);
+  EXPECT_EQ(KILNUTIL_IsRangeIntersectRange(&empty, &empty), 0);
 }
 
 TEST(RangeSpecialValues, ToTheEndPairHoldsMinusOne) {
@@ -190,14 +194,6 @@ TEST(RangeSpecialValues, MergeComparesMinusOneAsNumber) {
     EXPECT_EQ(show(a), c.merged);
   }
   EXPECT_EQ(KILNUTIL_UnionRange(nullptr, &cases[0].b), 0);
-}
-
-TEST(RangeSpecialValues, IntersectionWithEmpty) {
-  const CellRange a{5, 1, -1, 4};
-  CellRange out{}, empty;
-  KILNUTIL_InitEmptyRange(&empty);
-  EXPECT_EQ(KILNUTIL_IntersectRange(&a, &empty, &out), 0);
-  EXPECT_EQ(KILNUTIL_IsRangeIntersectRange(&empty, &empty), 0);
 }
 
 TEST(RangeSpecialValues, BoundingLosesOpenEndToLargerLast) {

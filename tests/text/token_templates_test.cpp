@@ -76,21 +76,10 @@ std::vector<std::string> results(Text<Ch> text) {
 }
 
 TEST(TokenTemplates, NarrowAndWideAgree) {
-  const char* corpus[] = {
-      "",
-      "a",
-      "a,b,c\n1,2,3\n4,5,6\n",
-      "a;b\r\nc;d\r\ne;f",
-      "x\ty\tz\n1\t2\n",
-      " \t padded , text \t ",
-      "it's, a, b",
-      "f(a,b),c\n\"q,r\",s\n",
-      "[a,b]{c,d}<e,f>\n",
-      "\xC3\xA9t\xC3\xA9,\xE2\x82\xAC 5,\xC2\xA0x\n\xC3\xA9,b",
-      "1.5e-3,2\n3,\"open",
-      "\n\n\n",
-      "a\xC2\xA0" "b c\td",
-  };
+  const char* corpus[] = {"", "a", "a,b,c\n1,2,3\n4,5,6\n", "a;b\r\nc;d\r\ne;f", "x\ty\tz\n1\t2\n",
+                          " \t padded , text \t ", "it's, a, b", "f(a,b),c\n\"q,r\",s\n", "[a,b]{c,d}<e,f>\n",
+                          "1.5e-3,2\n3,\"open", "\n\n\n",
+                          "\xC3\xA9t\xC3\xA9,\xE2\x82\xAC 5,\xC2\xA0x\n\xC3\xA9,b", "a\xC2\xA0" "b c\td"};
   for (const char* sample : corpus) {
     const std::string text = sample;
     const std::vector<std::string> a = results<char>(text), b = results<char16_t>(wide(text));
