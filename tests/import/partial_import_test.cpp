@@ -1,6 +1,6 @@
 // Partial-import requests and their containers: random requests expanded by
 // a model over the indices 0..500 and compared with every query, then the
-// stated cases, the container queries and the option parsing.
+// fixed small requests, the container queries and the option parsing.
 #include <kilnutil/import.h>
 
 #include <gtest/gtest.h>
@@ -152,7 +152,7 @@ std::vector<int> wanted_of(const char* request, int limit = 20) {
   return out;
 }
 
-TEST(PartialRequest, StatedCases) {
+TEST(PartialRequest, SmallRequests) {
   EXPECT_EQ(wanted_of("3"), std::vector<int>({2}));
   EXPECT_EQ(wanted_of("3:0", 6), std::vector<int>({2, 3, 4, 5}));
   EXPECT_EQ(wanted_of("1:100|2-3", 13), std::vector<int>({0, 1, 5, 6, 10, 11}));

@@ -1,5 +1,5 @@
 // The narrow/wide token templates: the narrow and wide instances giving the
-// same answers on the same text, then the stated cases.
+// same answers on the same text, then fixed cases.
 #include <kilnutil/frame.h>
 #include <kilnutil/text.h>
 #include <kilnutil/unicode.h>
