@@ -7,51 +7,33 @@
 
 namespace {
 
-struct Parsed {
-  int result;
-  std::string text, book, sheet, row1, col1, row2, col2;
-};
-
-Parsed parse(const std::string& input) {
-  char text[128], book[64], sheet[64], row1[32], col1[32], row2[32], col2[32];
+// "book|sheet|row1|col1|row2|col2", or "none" when the text is no reference.
+// The separators cut while parsing must be put back.
+std::string parse(const std::string& input) {
+  char text[128] = {}, book[64] = {}, sheet[64] = {}, row1[32] = {}, col1[32] = {}, row2[32] = {}, col2[32] = {};
   input.copy(text, sizeof text - 1);
-  text[input.size()] = '\0';
-  const int result = KILNUTIL_parse_one_range_string(text, book, sheet, row1, col1, row2, col2);
-  return {result, std::string(text, input.size()), book, sheet, row1, col1, row2, col2};
-}
-
-TEST(RangeText, FullReference) {
-  const Parsed p = parse("[Book1]Sheet1!$A$1:$C$10");
-  ASSERT_EQ(p.result, 1);
-  EXPECT_EQ(p.book, "Book1");
-  EXPECT_EQ(p.sheet, "Sheet1");
-  EXPECT_EQ(p.row1, "1");
-  EXPECT_EQ(p.col1, "A");
-  EXPECT_EQ(p.row2, "10");
-  EXPECT_EQ(p.col2, "C");
-  EXPECT_EQ(p.text, "[Book1]Sheet1!$A$1:$C$10");  // separators put back
+  if (!KILNUTIL_parse_one_range_string(text, book, sheet, row1, col1, row2, col2)) return "none";
+  EXPECT_EQ(text, input);
+  return std::string(book) + "|" + sheet + "|" + row1 + "|" + col1 + "|" + row2 + "|" + col2;
 }
 
 TEST(RangeText, ReferenceShapes) {
-  EXPECT_EQ(parse("$A$1:$B$2").result, 1);
-  EXPECT_EQ(parse("$1$2:$B$2").result, 0);
-  EXPECT_EQ(parse("$A$B:$B$2").result, 0);
-  const Parsed odd = parse("$1$A:$B$2");
-  ASSERT_EQ(odd.result, 1);
-  EXPECT_EQ(odd.row1, "1");
-  EXPECT_EQ(odd.col1, "1");  // the row digits stand in for the column
-  const Parsed cols = parse("$A:$C");
-  ASSERT_EQ(cols.result, 1);
-  EXPECT_EQ(cols.col1, "A");
-  EXPECT_EQ(cols.col2, "C");
-  EXPECT_EQ(cols.row1, "");
-  EXPECT_EQ(cols.book, "");
-  EXPECT_EQ(parse("$A$1").result, 0);     // no ":"
-  EXPECT_EQ(parse("A1:$B$2").result, 0);  // no "$"
-  EXPECT_EQ(parse("[Book1$A$1:$B$2").result, 0);
-  const Parsed sheet_only = parse("Data!$B$3:$D$4");
-  ASSERT_EQ(sheet_only.result, 1);
-  EXPECT_EQ(sheet_only.sheet, "Data");
+  const struct {
+    const char* text;
+    const char* parts;
+  } cases[] = {
+      {"[Book1]Sheet1!$A$1:$C$10", "Book1|Sheet1|1|A|10|C"},
+      {"Data!$B$3:$D$4", "|Data|3|B|4|D"},
+      {"$A$1:$B$2", "||1|A|2|B"},
+      {"$A:$C", "|||A||C"},
+      {"$1$A:$B$2", "||1|1|2|B"},  // the row digits stand in for the column
+      {"$1$2:$B$2", "none"},
+      {"$A$B:$B$2", "none"},
+      {"$A$1", "none"},      // no ":"
+      {"A1:$B$2", "none"},   // no "$"
+      {"[Book1$A$1:$B$2", "none"},
+  };
+  for (const auto& c : cases) EXPECT_EQ(parse(c.text), c.parts) << c.text;
 }
 
 TEST(RangeText, NullOutputsAndSecondName) {
