@@ -31,7 +31,6 @@ struct ScanRules {
   bool skip_numbers = true;
   bool escapes = true;  // a backslash escapes inside quoted sections
 
-  bool operator==(const ScanRules&) const = default;
 };
 
 // loc false: both quotes always count, and "<" ">" only while the
