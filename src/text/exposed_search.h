@@ -30,7 +30,6 @@ struct ScanRules {
   bool single_quote_first_only = false;
   bool skip_numbers = true;
   bool escapes = true;  // a backslash escapes inside quoted sections
-
 };
 
 // loc false: both quotes always count, and "<" ">" only while the
