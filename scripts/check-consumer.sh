@@ -9,9 +9,10 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 prefix="$work/prefix"
 
-cmake --preset release -DKILNUTIL_BUILD_TESTS=OFF -DKILNUTIL_BUILD_BENCH=OFF >/dev/null
-cmake --build --preset release
-cmake --install build/release --prefix "$prefix" >/dev/null
+build=build/install-check
+cmake --preset release -B "$build" -DKILNUTIL_BUILD_BENCH=OFF >/dev/null
+cmake --build "$build"
+cmake --install "$build" --prefix "$prefix" >/dev/null
 
 consumer=tests/consumer
 export LD_LIBRARY_PATH="$prefix/lib${LD_LIBRARY_PATH:+:$LD_LIBRARY_PATH}"

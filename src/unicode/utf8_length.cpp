@@ -39,12 +39,24 @@ extern "C" int KILNUTIL_UNICODE_UTF8_StrLength(const char* s) {
       count += 32;
       continue;
     }
-    // Up to 32 bytes by the rule itself; its NUL tests keep it inside the string.
-    const std::size_t stop = n - i >= 32 ? i + 32 : n;
-    while (i < stop) {
-      i += static_cast<std::size_t>(kiln::unicode::utf8_advance_length(p + i));
+    // Up to 32 bytes by the rule itself; its NUL tests keep it inside the
+    // string. Written as branches, not a computed length: predicted branches
+    // let the walk run ahead, where a computed step would wait for each load.
+    const unsigned char* q = p + i;
+    const unsigned char* stop = p + (n - i >= 32 ? i + 32 : n);
+    while (q < stop) {
+      if (q[0] < 0x80 || q[1] == 0) {
+        q += 1;
+      } else if (!(q[0] & 0x20) || q[2] == 0) {
+        q += 2;
+      } else if (!(q[0] & 0x10) || q[3] == 0) {
+        q += 3;
+      } else {
+        q += 4;
+      }
       ++count;
     }
+    i = static_cast<std::size_t>(q - p);
   }
   return static_cast<int>(count);
 }
