@@ -49,18 +49,9 @@ int read_raw_unit(ByteReader& reader) {
 int read_utf8_character(ByteReader& reader) {
   const int lead = reader.get();
   if (lead < 0x80) return lead;
-  int continuation_bytes;
-  unsigned value;
-  if (!(lead & 0x20)) {
-    continuation_bytes = 1;
-    value = lead & 0x1F;
-  } else if (!(lead & 0x10)) {
-    continuation_bytes = 2;
-    value = lead & 0x0F;
-  } else {
-    continuation_bytes = 3;
-    value = lead & 0x07;
-  }
+  const kiln::unicode::Utf8Lead lead_class = kiln::unicode::utf8_lead(static_cast<unsigned>(lead));
+  const int continuation_bytes = lead_class.continuation_bytes;
+  unsigned value = lead_class.bits;
   for (int i = 0; i < continuation_bytes; ++i) value = (value << 6) | (static_cast<unsigned>(reader.get()) & 0x3F);
   return static_cast<int>(value);
 }

@@ -25,6 +25,19 @@ inline const char* utf8_advance(const char* p) {
   return p + utf8_advance_length(reinterpret_cast<const unsigned char*>(p));
 }
 
+// The class of a lead byte of 0x80 or more, by its bits 0x20 and 0x10 alone:
+// how many continuation bytes follow and the lead's own bits of the value.
+struct Utf8Lead {
+  int continuation_bytes;
+  std::uint32_t bits;
+};
+
+inline Utf8Lead utf8_lead(std::uint32_t lead) {
+  if (!(lead & 0x20)) return {1, lead & 0x1F};
+  if (!(lead & 0x10)) return {2, lead & 0x0F};
+  return {3, lead & 0x07};
+}
+
 // Decodes the character at p by the lead byte's classes (no check for
 // overlong forms, surrogates or values above 0x10FFFF); a NUL met where a
 // further byte is expected ends the decoding with the bits gathered so far.
@@ -35,18 +48,9 @@ inline std::uint32_t utf8_decode(const unsigned char* p, int* length) {
     *length = 1;
     return lead;
   }
-  int continuation_bytes;
-  std::uint32_t value;
-  if (!(lead & 0x20)) {
-    continuation_bytes = 1;
-    value = lead & 0x1F;
-  } else if (!(lead & 0x10)) {
-    continuation_bytes = 2;
-    value = lead & 0x0F;
-  } else {
-    continuation_bytes = 3;
-    value = lead & 0x07;
-  }
+  const Utf8Lead lead_class = utf8_lead(lead);
+  const int continuation_bytes = lead_class.continuation_bytes;
+  std::uint32_t value = lead_class.bits;
   int consumed = 1;
   for (int i = 1; i <= continuation_bytes; ++i) {
     value <<= 6;
