@@ -60,7 +60,7 @@ int replace_block_text(HGLOBAL* handle, unsigned code_page, WideScratch& units, 
 // kNoDirectPath (the block still locked) when there is none.
 constexpr int kNoDirectPath = -2;
 
-int replace_with_direct_utf8(HGLOBAL* handle, unsigned code_page, LockedBlock& block) {
+static int replace_with_direct_utf8(HGLOBAL* handle, unsigned code_page, LockedBlock& block) {
   const auto* text = static_cast<const char*>(block.data());
   const size_t length = strnlen(text, block.size());
   if (length == block.size()) return kNoDirectPath;  // no NUL in the block: the general path adds one

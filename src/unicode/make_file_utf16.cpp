@@ -60,7 +60,7 @@ void rewrite_as_utf16(const std::string& path) {
 
 }  // namespace
 
-int make_file_utf16(const std::string& path) {
+static int make_file_utf16(const std::string& path) {
   if (path.empty()) return 0;
   if (access(path.c_str(), F_OK) != 0) {
     make_folders_for(path);

@@ -158,7 +158,7 @@ FILE* copy_utf16_text(TextFileToUTF8Context* context, FILE* stream, long long le
 
 }  // namespace
 
-FILE* open_text_file_as_utf8(FILE* stream, TextFileToUTF8Context* context) {
+static FILE* open_text_file_as_utf8(FILE* stream, TextFileToUTF8Context* context) {
   if (context == nullptr || context->path[0] == '\0' || context->fallback_mode == nullptr || stream == nullptr) {
     return stream;
   }
@@ -187,7 +187,7 @@ FILE* open_text_file_as_utf8(FILE* stream, TextFileToUTF8Context* context) {
   return copy_code_page_text(context, raw, length, mark_size);
 }
 
-void close_text_file_as_utf8(FILE* stream, TextFileToUTF8Context* context) {
+static void close_text_file_as_utf8(FILE* stream, TextFileToUTF8Context* context) {
   if (stream != nullptr) std::fclose(stream);
   if (context == nullptr || stream == nullptr || stream != context->converted_stream) return;
   const std::string path = temporary_path_of(context);
