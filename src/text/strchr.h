@@ -30,6 +30,70 @@ struct PairNesting {
   }
 };
 
+// The modes of the character search shared by KILNUTIL_strchr and the
+// narrow/wide StrChar template.
+inline constexpr unsigned kStrCharPlain = 0x1;           // no pairs or quotes
+inline constexpr unsigned kStrCharBackward = 0x2;        // plain: the last hit
+inline constexpr unsigned kStrCharSkipLeadingRun = 0x4;  // plain: from behind the run of c that opens the text
+inline constexpr unsigned kStrCharTrimmed = 0x10;        // plain: white space at both ends left out
+inline constexpr unsigned kStrCharEitherCase = 0x20;     // c matches in either case
+
+// The search itself, over any character width: `read` reads one character
+// and moves past it, `matches` tests a character, `nesting` holds the pair
+// state of the exposed search (reset here). Without 0x1, 0x4 and 0x10 the
+// first match outside pairs and double quotes; otherwise the plain search.
+template <class Ch, class Read, class Match>
+const Ch* find_str_char(const Ch* text, const Match& matches, unsigned mode, Read read, PairNesting& nesting) {
+  if (!(mode & (kStrCharPlain | kStrCharSkipLeadingRun | kStrCharTrimmed))) {
+    nesting.reset();
+    for (const Ch* p = text;;) {
+      const Ch* at = p;
+      const unsigned ch = read(p);
+      if (ch == 0) return nullptr;
+      if (nesting.is_open()) {
+        nesting.follow(ch);
+      } else if (matches(ch)) {
+        return at;
+      } else if (const int k = begin_quote_class(ch)) {
+        nesting.open(k);
+      }
+    }
+  }
+  // Skips characters from p (to end, or the NUL when end is null) while `keep` holds.
+  auto skip_while = [&read](const Ch* p, const Ch* end, auto&& keep) {
+    while (end == nullptr || p < end) {
+      const Ch* next = p;
+      const unsigned ch = read(next);
+      if (ch == 0 || !keep(ch)) break;
+      p = next;
+    }
+    return p;
+  };
+  const Ch* begin = text;
+  const Ch* end = nullptr;  // the terminating NUL
+  if (mode & kStrCharTrimmed) {
+    begin = skip_while(begin, nullptr, [](unsigned ch) { return is_space(ch); });
+    end = begin;  // behind the last character that is not white space
+    for (const Ch* p = begin;;) {
+      const unsigned ch = read(p);
+      if (ch == 0) break;
+      if (!is_space(ch)) end = p;
+    }
+  }
+  if (mode & kStrCharSkipLeadingRun) begin = skip_while(begin, end, matches);
+  const Ch* last = nullptr;
+  for (const Ch* p = begin; end == nullptr || p < end;) {
+    const Ch* at = p;
+    const unsigned ch = read(p);
+    if (ch == 0) break;
+    if (matches(ch)) {
+      if (!(mode & kStrCharBackward)) return at;
+      last = at;
+    }
+  }
+  return last;
+}
+
 // The process-wide nesting of KILNUTIL_strchr, reset by every call to it and
 // by KILNUTIL_next_token, which reads tokens with it.
 PairNesting& strchr_nesting();

@@ -30,68 +30,19 @@ int set_separator_exclusion_char(int c);
 
 // ---- Character search.
 
-// The first c outside pairs and double quotes (one kind at a time).
-template <class Ch, class Match>
-const Ch* exposed_str_char(const Ch* text, const Match& matches) {
-  PairNesting nesting;
-  for (const Ch* p = text;;) {
-    const Ch* at = p;
-    const unsigned ch = read_char(p);
-    if (ch == 0) return nullptr;
-    if (nesting.is_open()) {
-      nesting.follow(ch);
-    } else if (matches(ch)) {
-      return at;
-    } else if (const int k = begin_quote_class(ch)) {
-      nesting.open(k);
-    }
-  }
-}
-
-// The position behind the last character that is not white space.
-template <class Ch>
-const Ch* trimmed_end(const Ch* p) {
-  const Ch* end = p;
-  for (;;) {
-    const unsigned ch = read_char(p);
-    if (ch == 0) return end;
-    if (!is_space(ch)) end = p;
-  }
-}
-
 // Mode 0x1: plain search (with 0x2 the last hit); 0x4: the leading run of c
 // is skipped first; 0x10: white space at both ends is left out first; 0x20: c
 // matches in either case. Without 0x1, 0x4 and 0x10: the exposed search.
 template <class Ch>
 Ch* str_char(const Ch* text, int c, unsigned mode) {
-  constexpr unsigned kPlain = 0x1, kBackward = 0x2, kSkipLeadingRun = 0x4, kTrimmed = 0x10, kEitherCase = 0x20;
   if (text == nullptr || c <= 0) return nullptr;
   const auto target = static_cast<unsigned>(c);
-  const bool either_case = (mode & kEitherCase) != 0;
+  const bool either_case = (mode & kStrCharEitherCase) != 0;
   const auto matches = [target, either_case](unsigned ch) {
     return ch == target || (either_case && same_letter_either_case(ch, target));
   };
-  if (!(mode & (kPlain | kSkipLeadingRun | kTrimmed))) return mutable_pos(exposed_str_char(text, matches));
-  const Ch* begin = text;
-  const Ch* end = nullptr;  // the terminating NUL
-  if (mode & kTrimmed) {
-    begin = skip_spaces(begin);
-    end = trimmed_end(begin);
-  }
-  if (mode & kSkipLeadingRun) {
-    while ((end == nullptr || begin < end) && char_at(begin) != 0 && matches(char_at(begin))) begin = after_char(begin);
-  }
-  const Ch* last = nullptr;
-  for (const Ch* p = begin; end == nullptr || p < end;) {
-    const Ch* at = p;
-    const unsigned ch = read_char(p);
-    if (ch == 0) break;
-    if (matches(ch)) {
-      if (!(mode & kBackward)) return mutable_pos(at);
-      last = at;
-    }
-  }
-  return mutable_pos(last);
+  PairNesting nesting;  // the template keeps no state between calls
+  return mutable_pos(find_str_char(text, matches, mode, [](const Ch*& p) { return read_char(p); }, nesting));
 }
 
 // The first exposed target (0: any white space), template-family rules.
