@@ -21,9 +21,15 @@ struct Command {
   const char* usage;    // argument synopsis, e.g. "TEXT|-"
   const char* summary;  // one line for `kilnutil help`
   int (*run)(Args args);
+  // Options, one per line, and at least one example; printed by
+  // `kilnutil COMMAND --help`, `-h` and `kilnutil help COMMAND`.
+  const char* help = "";
 };
 
 std::span<const Command> commands();
+
+// Prints the usage, summary and help text of a command on stdout.
+void print_command_help(const Command& command);
 
 // Prints "kilnutil: <message>" on stderr and returns kUsage.
 int usage_error(std::string_view message);

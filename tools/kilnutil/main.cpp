@@ -44,7 +44,33 @@ std::string text_argument(const char* arg) {
   return std::string(std::istreambuf_iterator<char>(std::cin), std::istreambuf_iterator<char>());
 }
 
-int run_help(Args) {
+void print_command_help(const Command& command) {
+  std::printf("usage: kilnutil %s%s%s\n\n%s\n", command.name, *command.usage ? " " : "", command.usage, command.summary);
+  if (*command.help) std::printf("\n%s\n", command.help);
+}
+
+static const Command* find_command(std::string_view name) {
+  for (const Command& command : commands()) {
+    if (name == command.name) return &command;
+  }
+  return nullptr;
+}
+
+static bool asks_for_help(Args args) {
+  for (const char* arg : args) {
+    const std::string_view word = arg;
+    if (word == "--help" || word == "-h") return true;
+  }
+  return false;
+}
+
+int run_help(Args args) {
+  if (!args.empty()) {
+    const Command* command = find_command(args[0]);
+    if (command == nullptr) return usage_error("unknown command '" + std::string(args[0]) + "' (see 'kilnutil help')");
+    print_command_help(*command);
+    return kOk;
+  }
   std::cout << "usage: kilnutil COMMAND [ARGUMENTS]\n\ncommands:\n";
   for (const Command& command : commands()) {
     std::string synopsis = std::string(command.name) + (*command.usage ? " " : "") + command.usage;
@@ -59,8 +85,14 @@ int main(int argc, char** argv) {
   using namespace kilnutil_cli;
   if (argc < 2) return usage_error("no command given (see 'kilnutil help')");
   const std::string_view name = argv[1];
-  for (const Command& command : commands()) {
-    if (name == command.name) return command.run(Args(argv + 2, argv + argc));
+  const Command* command = find_command(name);
+  if (command != nullptr) {
+    const Args args(argv + 2, argv + argc);
+    if (asks_for_help(args)) {
+      print_command_help(*command);
+      return kOk;
+    }
+    return command->run(args);
   }
   return usage_error("unknown command '" + std::string(name) + "' (see 'kilnutil help')");
 }
