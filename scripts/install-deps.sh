@@ -6,6 +6,7 @@ set -euo pipefail
 packages=(
   cmake ninja-build g++ clang libclang-rt-dev pkg-config binutils
   libicu-dev libgtest-dev libgmock-dev libbenchmark-dev libomp-dev libssl-dev
+  libboost-dev liblapack-dev
 )
 
 missing=()
