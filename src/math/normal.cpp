@@ -57,14 +57,16 @@ constexpr double kAcklamUpperBreak = 0.97575;  // 1 - 0.02425, the lower break m
 
 bool outside_open_unit_interval(double p) { return p <= 0 || p >= 1; }
 
-// Acklam's form for 0.5 <= x < 1, non-negative.
-double acklam_upper_half(double x) {
+// Acklam's form on x = max(p, 1 - p) >= 0.5, non-negative. The upper-tail
+// form needs 1 - x, which is taken as `tail` = min(p, 1 - p) itself: forming
+// 1 - (1 - p) would round p below 1.1e-16 to 0 and give NaN.
+double acklam_upper_half(double x, double tail) {
   if (x <= kAcklamUpperBreak) {
     const double q = x - 0.5;
     const double r = q * q;
     return polynomial(kAcklamCentralNumerator, r) * q / polynomial(kAcklamCentralDenominator, r);
   }
-  const double q = std::sqrt(-2 * std::log(1 - x));
+  const double q = std::sqrt(-2 * std::log(tail));
   return -polynomial(kAcklamTailNumerator, q) / polynomial(kAcklamTailDenominator, q);
 }
 
@@ -102,7 +104,7 @@ double normal_quantile_acklam(double p) {
     set_error_code(KILNUTIL_MATH_ERR_DOMAIN);
     return frame::kMissingValue;
   }
-  const double magnitude = acklam_upper_half(p < 0.5 ? 1 - p : p);
+  const double magnitude = p < 0.5 ? acklam_upper_half(1 - p, p) : acklam_upper_half(p, 1 - p);
   return p > 0.5 ? magnitude : -magnitude;
 }
 
