@@ -22,6 +22,25 @@ KILNUTIL_API unsigned int KILNUTIL_get_error_code(void);
 
 
 /* ---- Rounding, precision and comparison ---- */
+/* x rounded to n decimal places (n > 308: x unchanged) by the algorithm the
+ * new-rounding switch selects; also exported as `round` (see below). */
+KILNUTIL_API double KILNUTIL_mround(double x, int n);
+/* x rounded to n significant digits; 10^n > 2147483647: missing value, code 1. */
+KILNUTIL_API double prec(double x, int n);
+/* The new-rounding switch (default 1): read and write through the pointer. */
+KILNUTIL_API unsigned char* IsRoundNewAlgorithm(void);
+
+/* Double to integer. nint, KILNUTIL_nint, nint2 clamp at the 32-bit range;
+ * KILNUTIL_tint, KILNUTIL_nnint, KILNUTIL_last_nint, KILNUTIL_lnint at
+ * +-2147483600; KILNUTIL_nint64 does not clamp. */
+KILNUTIL_API int nint(double x);               /* half away from zero */
+KILNUTIL_API int KILNUTIL_nint(double x);      /* same as nint */
+KILNUTIL_API int nint2(double x);              /* truncate, minus 1 when x < 0 */
+KILNUTIL_API long long KILNUTIL_nint64(double x); /* half away from zero, 64-bit */
+KILNUTIL_API int KILNUTIL_tint(double x);      /* truncate toward zero */
+KILNUTIL_API int KILNUTIL_nnint(double x);     /* ceiling */
+KILNUTIL_API int KILNUTIL_last_nint(double x); /* floor tolerating 1e-10 */
+KILNUTIL_API int KILNUTIL_lnint(double x);     /* the same, in single precision */
 
 
 /* ---- Elementary function wrappers ---- */
