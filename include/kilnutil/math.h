@@ -18,10 +18,113 @@ KILNUTIL_BEGIN_C
 KILNUTIL_API unsigned int get_error_code(void);
 KILNUTIL_API unsigned int KILNUTIL_get_error_code(void);
 
-/* ---- Special functions and distributions ---- */
+/* ---- Special functions and distributions ----
+ * Degrees of freedom: int where negative values are refused, unsigned where
+ * they are not expected; inside an argument block they are doubles truncated
+ * toward zero. A `_ptr` form writes its result through its pointer argument
+ * (nothing for a null pointer) and always returns 0. */
+KILNUTIL_API double gammaln(double x);                      /* ln Gamma, five-term series */
+KILNUTIL_API double gammln_export(double x);                /* ln Gamma, six-term series */
+KILNUTIL_API int ln_gamma_export_ptr(double x, double* out);
+KILNUTIL_API double beta(double a, double b);               /* complete beta B(a, b) */
+KILNUTIL_API int bico_export_ptr(unsigned int n, unsigned int k, double* out); /* n over k */
+KILNUTIL_API double incgamma(double x, double a);           /* P(a, x): x first */
+KILNUTIL_API double incbeta(double x, double a, double b);  /* I_x(a, b) */
+KILNUTIL_API double incomp_beta_export(const double* block); /* {x, a, b} */
+KILNUTIL_API int incomp_beta_export_ptr(const double* block, double* out);
+KILNUTIL_API double error_func_export(double x);            /* erf */
+KILNUTIL_API int error_func_export_ptr(double* inout);
+KILNUTIL_API double inverf(double y);                       /* inverse erf */
+KILNUTIL_API double inv_erf_export(double y);
+KILNUTIL_API double invncp(double p);                       /* normal quantile, AS 241 */
+KILNUTIL_API double invncp1(double p);                      /* normal quantile, sqrt(2) inverf(2p - 1) */
+KILNUTIL_API double invncp2(double p);                      /* normal quantile, Acklam */
+KILNUTIL_API double gauss_inv_export(double p);             /* invncp2 */
+KILNUTIL_API double prob(double x);                         /* erf(x / sqrt(2)) */
+KILNUTIL_API double cum_gauss_export(double x);             /* prob without the missing-value test */
+KILNUTIL_API int norm_prob_export_ptr(double x, double* out);
+KILNUTIL_API double invprob(double p);                      /* invncp2((p + 1) / 2) */
+KILNUTIL_API double inv_prob_export(double p);
+KILNUTIL_API int inv_prob_export_ptr(double p, double* out);
+KILNUTIL_API double KILNUTIL_cum_gauss_plus_one(double x);  /* 1 + erf(x / sqrt(2)) */
+KILNUTIL_API double KILNUTIL_cum_gauss(double x);           /* normal lower tail in percent */
+KILNUTIL_API double KILNUTIL_percent_prob(double pct);      /* normal quantile of pct percent */
+KILNUTIL_API double invt(double t, int df);                 /* Student t lower tail */
+KILNUTIL_API double probt(double t, int df);
+KILNUTIL_API double tTable(double p, int df);               /* Student t quantile */
+KILNUTIL_API double t_dist_export(const double* block);     /* {p, df}: coarse quantile */
+KILNUTIL_API int t_dist_export_ptr(const double* block, double* out);
+KILNUTIL_API double invf(double f, int df1, int df2);       /* F lower tail */
+KILNUTIL_API double Ftable(double p, unsigned int df1, unsigned int df2); /* F quantile */
+KILNUTIL_API double F_dist_export(const double* block);     /* {p, df1, df2} */
+KILNUTIL_API int F_dist_export_ptr(const double* block, double* out);
+KILNUTIL_API double invchisq(double x, unsigned int df);    /* chi-square lower tail */
+KILNUTIL_API int chisquare_prob_Q_export_ptr(double* out, double x, double df); /* upper tail */
+KILNUTIL_API double ChisqDist(double p, unsigned int df);   /* chi-square quantile, -1 on failure */
+KILNUTIL_API double Chisqr_dist_export(const double* block); /* {p, df} */
+KILNUTIL_API int Chisqr_dist_export_ptr(const double* block, double* out);
 
 
 /* ---- Rounding, precision and comparison ---- */
+/* x rounded to n decimal places (n > 308: x unchanged) by the algorithm the
+ * new-rounding switch selects; also exported as `round` (see below). */
+KILNUTIL_API double KILNUTIL_mround(double x, int n);
+/* x rounded to n significant digits; 10^n > 2147483647: missing value, code 1. */
+KILNUTIL_API double prec(double x, int n);
+/* The new-rounding switch (default 1): read and write through the pointer. */
+KILNUTIL_API unsigned char* IsRoundNewAlgorithm(void);
+
+/* Double to integer. nint, KILNUTIL_nint, nint2 clamp at the 32-bit range;
+ * KILNUTIL_tint, KILNUTIL_nnint, KILNUTIL_last_nint, KILNUTIL_lnint at
+ * +-2147483600; KILNUTIL_nint64 does not clamp. */
+KILNUTIL_API int nint(double x);               /* half away from zero */
+KILNUTIL_API int KILNUTIL_nint(double x);      /* same as nint */
+KILNUTIL_API int nint2(double x);              /* truncate, minus 1 when x < 0 */
+KILNUTIL_API long long KILNUTIL_nint64(double x); /* half away from zero, 64-bit */
+KILNUTIL_API int KILNUTIL_tint(double x);      /* truncate toward zero */
+KILNUTIL_API int KILNUTIL_nnint(double x);     /* ceiling */
+KILNUTIL_API int KILNUTIL_last_nint(double x); /* floor tolerating 1e-10 */
+KILNUTIL_API int KILNUTIL_lnint(double x);     /* the same, in single precision */
+
+/* Remainders. A zero divisor sets code 1 and gives 0, 0, the missing value, x. */
+KILNUTIL_API int mod(int a, int b);                    /* sign of the dividend */
+KILNUTIL_API int mod2(int a, int b);                   /* sign of the divisor */
+KILNUTIL_API double rmod(double x, double y);          /* fmod: sign of the dividend */
+KILNUTIL_API double KILNUTIL_mrmod2(double x, double y); /* x - floor(x/y)*y */
+
+/* Tolerant comparison: op is one of these; 0 stores a as the tolerance. */
+#define KILNUTIL_COMPARE_SET_TOLERANCE 0
+#define KILNUTIL_COMPARE_EQUAL 61     /* '=' */
+#define KILNUTIL_COMPARE_NOT_EQUAL 33 /* '!' */
+/* 0 or 1; tol equal to the missing value uses the default tolerance (1e-14). */
+KILNUTIL_API int KILNUTIL_double_compare_ex(double a, double b, double tol, int op);
+/* KILNUTIL_double_compare_ex with the is_equal tolerance (1e-14). */
+KILNUTIL_API int is_equal(double a, double b, int op);
+/* 1 for 0, the missing value and 0 < |x| < 1e-290. */
+KILNUTIL_API int KILNUTIL_test_double_for_zero(double x);
+
+/* Guarded power: 1 with *result written, 0 on failure. A null result with a
+ * base pointer sets the zero-to-the-power-zero switch to (*base > 0) and
+ * returns 1; with both null it returns the switch (default 0). */
+KILNUTIL_API int KILNUTIL_safe_power(double* result, const double* base, const double* exponent);
+/* base^exponent or the missing value (also exported as `pow`, see below). */
+KILNUTIL_API double KILNUTIL_pow(double base, double exponent);
+KILNUTIL_API double KILNUTIL_my_power(double base, double exponent);
+/* a/b, or fallback when an argument is missing or the quotient would overflow. */
+KILNUTIL_API double KILNUTIL_safe_double_divide(double a, double b, double fallback);
+/* Common logarithm, or the missing value for x <= 0; see IsReduceErrorForLog10. */
+KILNUTIL_API double KILNUTIL_mylog10(double x);
+/* The exact-log10 switch (default 0: ln(x)/ln(10)); read and write through it. */
+KILNUTIL_API unsigned char* IsReduceErrorForLog10(void);
+/* x rounded to a multiple of |inc|: up toward +infinity, or down tolerating
+ * 1e-10 of a step. */
+#define KILNUTIL_ROUND_TO_INC_DOWN 0
+#define KILNUTIL_ROUND_TO_INC_UP 1
+KILNUTIL_API double KILNUTIL_round_to_inc(double x, double inc, int up);
+/* get non-zero: *slot. Otherwise value is stored when below 101; returns *slot. */
+#define KILNUTIL_PERCENTAGE_SET 0
+#define KILNUTIL_PERCENTAGE_GET 1
+KILNUTIL_API int KILNUTIL_percentage_value(short* slot, int get, int value);
 
 
 /* ---- Elementary function wrappers ---- */

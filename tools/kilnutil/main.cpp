@@ -23,6 +23,17 @@ constexpr Command kCommands[] = {
     {"detect", "FILE...", "encoding of each file: code, name and mark size", run_detect},
     {"to-utf8", "FILE [-o OUT] [-c CODEPAGE]", "a text file's contents as UTF-8", run_to_utf8},
     {"base64", "[-d] [FILE|-]", "Base64 of a file, or with -d the bytes of Base64 text", run_base64},
+    {"stat", "FUNCTION ARG...|--list", "special functions, distributions and rounding: one value to 17 digits",
+     run_stat,
+     "FUNCTION ARG...  evaluate one function (integers where the list says DF, N or K)\n"
+     "--list           list the functions with their arguments\n"
+     "A failed evaluation prints the missing value, and the math error code with a\n"
+     "reason on stderr (exit 1).\n\n"
+     "examples:\n"
+     "  kilnutil stat t-quantile 0.975 10\n"
+     "  kilnutil stat chisq-cdf 3.84 1\n"
+     "  kilnutil stat normal-quantile 0.95\n"
+     "  kilnutil stat round 2.675 2"},
 };
 
 }  // namespace
