@@ -15,5 +15,7 @@ int run_date(Args args);
 int run_detect(Args args);
 int run_to_utf8(Args args);
 int run_base64(Args args);
+int run_sort(Args args);
+int run_invert(Args args);
 
 }  // namespace kilnutil_cli
