@@ -92,13 +92,18 @@ TEST(KilnRecordSorts, RecordSizesAndCountsAroundTheThresholds) {
   }
 }
 
-TEST(KilnRecordSorts, SubrangeOnlyIsTouched) {
-  Records input(40, 8, 9);
-  Records out = input;
-  KILNUTIL_MergeSort(out.data(), 5, 36, 8, by_key);
-  EXPECT_EQ(std::memcmp(out.at(0), input.at(0), 5 * 8), 0);
-  EXPECT_EQ(std::memcmp(out.at(37), input.at(37), 3 * 8), 0);
-  for (int i = 6; i <= 36; ++i) EXPECT_LE(out.at(i - 1)[0], out.at(i)[0]);
+// A range lo..hi relative to a base inside the array, lo negative: only the
+// range moves, and it ends sorted.
+TEST(KilnRecordSorts, SubrangeAroundTheBaseOnlyIsTouched) {
+  for (const auto sort : {KILNUTIL_HopefullyFasterQuickSort, quick_sort_synchronized_plain, KILNUTIL_MergeSort,
+                          KILNUTIL_InsertionSort}) {
+    Records input(90, 8, 9);
+    Records out = input;
+    sort(out.at(40), -35, 44, 8, by_key);  // elements 5..84
+    EXPECT_EQ(std::memcmp(out.at(0), input.at(0), 5 * 8), 0);
+    EXPECT_EQ(std::memcmp(out.at(85), input.at(85), 5 * 8), 0);
+    for (int i = 6; i <= 84; ++i) ASSERT_LE(out.at(i - 1)[0], out.at(i)[0]) << i;
+  }
 }
 
 // Companions of 1, 4, 24 and 208 bytes hold each row's original position;
