@@ -115,7 +115,7 @@ int partition_range(Key* a, std::uint32_t* ix, int l, int r, int q, Before befor
 // library). Returns KILNUTIL_SORT_OK or KILNUTIL_SORT_STACK_OVERFLOW.
 template <class Key, class Before>
 int quicksort_column(int n, std::uint32_t* ix, Key* a, Before before, int stack_entries = kStackEntries) {
-  int stack[kStackEntries + 2];
+  int stack[kStackEntries];  // written only while depth <= kStackEntries
   int depth = 0;
   int g = 0;
   int l = 0;
