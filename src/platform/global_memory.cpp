@@ -6,7 +6,7 @@
 // block is resized; its handle is the record's address plus 8, so a handle
 // tells its kind by its alignment (address % 16: 0 fixed, 8 movable), the way
 // Windows tells its movable handles from fixed pointers.
-#include <kilnutil/platform.h>
+#include "platform/global_memory.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -115,11 +115,33 @@ HGLOBAL resize_fixed(HGLOBAL mem, FixedHeader* header, std::size_t bytes, unsign
 
 }  // namespace
 
-extern "C" {
+namespace kiln::platform {
 
-HGLOBAL GlobalAlloc(unsigned int flags, size_t bytes) {
+HGLOBAL global_alloc(unsigned flags, std::size_t bytes) {
   return (flags & GMEM_MOVEABLE) ? allocate_movable(bytes, flags) : allocate_fixed(bytes, flags);
 }
+
+HGLOBAL global_free(HGLOBAL mem) {
+  if (mem == nullptr) return nullptr;
+  if (MovableRecord* record = movable_record(mem)) {
+    std::free(record->data);
+    record->magic = kFreedMagic;
+    std::free(record);
+    return nullptr;
+  }
+  if (FixedHeader* header = fixed_header(mem)) {
+    header->magic = kFreedMagic;
+    std::free(header);
+    return nullptr;
+  }
+  return mem;
+}
+
+}  // namespace kiln::platform
+
+extern "C" {
+
+HGLOBAL GlobalAlloc(unsigned int flags, size_t bytes) { return kiln::platform::global_alloc(flags, bytes); }
 
 HGLOBAL GlobalReAlloc(HGLOBAL mem, size_t bytes, unsigned int flags) {
   if (MovableRecord* record = movable_record(mem)) {
@@ -147,21 +169,7 @@ BOOL GlobalUnlock(HGLOBAL mem) {
   return record->lock_count != 0;
 }
 
-HGLOBAL GlobalFree(HGLOBAL mem) {
-  if (mem == nullptr) return nullptr;
-  if (MovableRecord* record = movable_record(mem)) {
-    std::free(record->data);
-    record->magic = kFreedMagic;
-    std::free(record);
-    return nullptr;
-  }
-  if (FixedHeader* header = fixed_header(mem)) {
-    header->magic = kFreedMagic;
-    std::free(header);
-    return nullptr;
-  }
-  return mem;
-}
+HGLOBAL GlobalFree(HGLOBAL mem) { return kiln::platform::global_free(mem); }
 
 size_t GlobalSize(HGLOBAL mem) {
   if (MovableRecord* record = movable_record(mem)) return record->size;

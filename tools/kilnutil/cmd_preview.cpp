@@ -25,9 +25,6 @@ namespace kilnutil_cli {
 namespace {
 
 constexpr std::size_t kBlockSize = 1 << 20;
-constexpr std::size_t kHeadBytes = 64 * 1024;
-constexpr int kHeadLines = 10;
-
 struct Options {
   std::string path;
   std::string rows;
@@ -118,52 +115,9 @@ long long line_feeds(const std::string& block) {
   return feeds;
 }
 
-// The first lines of the text: enough to find the separator.
-std::string read_head(Utf8TextFile& file) {
-  std::string head;
-  std::vector<char> block(kBlockSize);
-  while (head.size() < kHeadBytes) {
-    const std::size_t got = file.read(block.data(), kHeadBytes);
-    if (got == 0) break;
-    head.append(block.data(), got);
-    long long feeds = 0;
-    for (const char c : head) feeds += c == '\n';
-    if (feeds > kHeadLines) break;
-  }
-  return head;
-}
-
-// The separator as the host finds it: a table whose lines agree on
-// semicolon-separated fields is semicolon-separated with decimal commas
-// (commas are then excluded as separators); otherwise tab, comma or none.
-void find_separator(std::string head, Preview& preview) {
-  long long feeds = 0;
-  for (const char c : head) feeds += c == '\n';
-  const int lines = static_cast<int>(feeds < kHeadLines ? feeds : kHeadLines);
-  const int previous = KILNUTIL_SetSeparatorExclusionChar(',');
-  preview.separator = KILNUTILT_FindSeparator(head.data(), 0, lines);
-  if (preview.separator == ';') {
-    preview.decimal_separator = ',';
-    char comma[] = ",";
-    KILNUTIL_cvtstr2real_ex(comma, nullptr, 0, nullptr);  // the decimal separator becomes ","
-  } else {
-    KILNUTIL_SetSeparatorExclusionChar(previous);
-    preview.separator = KILNUTILT_FindSeparator(head.data(), 0, lines);
-  }
-  preview.fields = preview.separator > 0 ? KILNUTIL_FirstLineTokensA(head.data(), preview.separator) : 1;
-}
-
 PreviewRow read_row(int line, std::string text, int separator, const ImportFilesPartials& partials) {
-  if (!text.empty() && text.back() == '\r') text.pop_back();
   PreviewRow row{line, {}};
-  std::vector<char*> fields;
-  if (separator > 0) {
-    const int count = KILNUTIL_SeparateStrToTokensA(text.data(), nullptr, separator, -1);
-    fields.resize(static_cast<std::size_t>(count > 0 ? count : 0) + 1);
-    fields.resize(static_cast<std::size_t>(KILNUTIL_SeparateStrToTokensA(text.data(), fields.data(), separator, -1)));
-  } else {
-    fields.push_back(text.data());
-  }
+  const std::vector<char*> fields = split_fields(text, separator);
   for (std::size_t col = 0; col < fields.size(); ++col) {
     if (partials.CheckCol(static_cast<int>(col))) row.cells.emplace_back(static_cast<int>(col), read_cell(fields[col]));
   }
@@ -321,7 +275,10 @@ int run_preview(Args args) {
   Preview preview;
   preview.encoding = file.encoding();
   const std::string head = read_head(file);
-  find_separator(head, preview);
+  const TableLayout layout = find_table_layout(head);
+  preview.separator = layout.separator;
+  preview.decimal_separator = layout.decimal_separator;
+  preview.fields = layout.fields;
 
   RowReader reader(options, partials, preview);
   reader.feed(head);

@@ -16,5 +16,7 @@ int run_detect(Args args);
 int run_to_utf8(Args args);
 int run_base64(Args args);
 int run_stat(Args args);
+int run_sort(Args args);
+int run_invert(Args args);
 
 }  // namespace kilnutil_cli

@@ -34,6 +34,18 @@ constexpr Command kCommands[] = {
      "  kilnutil stat chisq-cdf 3.84 1\n"
      "  kilnutil stat normal-quantile 0.95\n"
      "  kilnutil stat round 2.675 2"},
+    {"sort", "[--desc] [--column N] [--separator C] [FILE|-]",
+     "sort a column of a delimited text file: each value with its line number", run_sort,
+     "--desc           descending order\n"
+     "--column N       the column to sort, from 1 (default 1)\n"
+     "--separator C    the field separator: one character or 'tab' (default: found from the text)\n"
+     "Text that is not a number sorts as the missing value \"--\".\n"
+     "example: kilnutil sort --desc --column 3 examples/weather_utf8_bom.csv"},
+    {"invert", "[FILE|-]", "invert a square matrix: one row per line, numbers separated by blanks, commas or ;",
+     run_invert,
+     "FILE             the matrix (default: standard input)\n"
+     "Prints the inverse with 17 significant digits, or fails with \"singular\" (exit 1).\n"
+     "example: printf '4 7\\n2 6\\n' | kilnutil invert"},
 };
 
 }  // namespace

@@ -1,13 +1,25 @@
 // Opening a file to import as UTF-8 through the library's text-file protocol.
 #include "preview_file.h"
 
+#include <kilnutil/numeric.h>
+#include <kilnutil/text.h>
+
 #include <cstring>
 
 namespace kilnutil_cli {
 
 namespace {
 
+constexpr std::size_t kHeadBytes = 64 * 1024;
+constexpr int kHeadLines = 10;
+
 unsigned int family(unsigned int code) { return code & 0xFFu; }
+
+long long line_feeds_in(const std::string& text) {
+  long long feeds = 0;
+  for (const char c : text) feeds += c == '\n';
+  return feeds;
+}
 
 }  // namespace
 
@@ -59,6 +71,54 @@ std::string encoding_name(unsigned int code) {
   if (code & KILNUTIL_ENCODING_MARK) name += " with mark";
   if (code & KILNUTIL_ENCODING_ASCII) name += " (ASCII)";
   return name;
+}
+
+std::string read_head(Utf8TextFile& file) {
+  std::string head;
+  std::vector<char> block(kHeadBytes);
+  while (head.size() < kHeadBytes) {
+    const std::size_t got = file.read(block.data(), kHeadBytes);
+    if (got == 0) break;
+    head.append(block.data(), got);
+    if (line_feeds_in(head) > kHeadLines) break;
+  }
+  return head;
+}
+
+void use_decimal_comma() {
+  char comma[] = ",";
+  KILNUTIL_cvtstr2real_ex(comma, nullptr, 0, nullptr);  // the decimal separator becomes ","
+}
+
+// Commas are excluded as separators first; a ";" found then means decimal commas.
+TableLayout find_table_layout(std::string head) {
+  TableLayout layout;
+  const long long feeds = line_feeds_in(head);
+  const int lines = static_cast<int>(feeds < kHeadLines ? feeds : kHeadLines);
+  const int previous = KILNUTIL_SetSeparatorExclusionChar(',');
+  layout.separator = KILNUTILT_FindSeparator(head.data(), 0, lines);
+  if (layout.separator == ';') {
+    layout.decimal_separator = ',';
+    use_decimal_comma();
+  } else {
+    KILNUTIL_SetSeparatorExclusionChar(previous);
+    layout.separator = KILNUTILT_FindSeparator(head.data(), 0, lines);
+  }
+  layout.fields = layout.separator > 0 ? KILNUTIL_FirstLineTokensA(head.data(), layout.separator) : 1;
+  return layout;
+}
+
+std::vector<char*> split_fields(std::string& line, int separator) {
+  if (!line.empty() && line.back() == '\r') line.pop_back();
+  std::vector<char*> fields;
+  if (separator > 0) {
+    const int count = KILNUTIL_SeparateStrToTokensA(line.data(), nullptr, separator, -1);
+    fields.resize(static_cast<std::size_t>(count > 0 ? count : 0) + 1);
+    fields.resize(static_cast<std::size_t>(KILNUTIL_SeparateStrToTokensA(line.data(), fields.data(), separator, -1)));
+  } else {
+    fields.push_back(line.data());
+  }
+  return fields;
 }
 
 }  // namespace kilnutil_cli

@@ -37,4 +37,24 @@ private:
 // A readable name of an encoding code, such as "UTF-8 with mark".
 std::string encoding_name(unsigned int code);
 
+// The first lines of the text: enough to find the separator.
+std::string read_head(Utf8TextFile& file);
+
+struct TableLayout {
+  int separator = -1;  // tab, ',', ';' or -1 (each line one field)
+  char decimal_separator = '.';
+  int fields = 1;  // fields of the first line
+};
+
+// The separator as the host finds it: a table whose lines agree on
+// semicolon-separated fields is semicolon-separated with decimal commas (the
+// library's decimal separator becomes ","); otherwise tab, comma or none.
+TableLayout find_table_layout(std::string head);
+
+// Makes "," the library's decimal separator for the numbers read afterwards.
+void use_decimal_comma();
+
+// The fields of one line (its trailing CR dropped), cut in place.
+std::vector<char*> split_fields(std::string& line, int separator);
+
 }  // namespace kilnutil_cli
