@@ -5,7 +5,7 @@
 
 #include "color/packed_models.h"
 
-#include "math/rounding.h"
+#include "math/nint.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 #include "color/color_text.h"
 #include "color/packed_models.h"
 
-#include "math/rounding.h"
+#include "math/nint.h"
 
 #include <cstdio>
 

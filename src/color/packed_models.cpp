@@ -1,7 +1,7 @@
 // The model conversions on plain RGB triples.
 #include "color/packed_models.h"
 
-#include "math/rounding.h"
+#include "math/nint.h"
 
 #include <algorithm>
 #include <cmath>
