@@ -15,5 +15,6 @@ int run_date(Args args);
 int run_detect(Args args);
 int run_to_utf8(Args args);
 int run_base64(Args args);
+int run_color(Args args);
 
 }  // namespace kilnutil_cli

@@ -23,6 +23,14 @@ constexpr Command kCommands[] = {
     {"detect", "FILE...", "encoding of each file: code, name and mark size", run_detect},
     {"to-utf8", "FILE [-o OUT] [-c CODEPAGE]", "a text file's contents as UTF-8", run_to_utf8},
     {"base64", "[-d] [FILE|-]", "Base64 of a file, or with -d the bytes of Base64 text", run_base64},
+    {"color", "TEXT... [--to MODEL] | --list | --ramp START END N [--three]",
+     "colour strings in every colour model, the colour list, colour ramps", run_color,
+     "TEXT              a list name, #RGB, #RRGGBB, RGB(r,g,b), HSL(h,l,s) (0-240) or a number\n"
+     "--to MODEL        rgb, html, hsl, hsv, lab, lch, luv, xyz, yxy, cmy, cmyk, hunterlab or all (default)\n"
+     "--list            the colour list: number, name, #RRGGBB (a swatch on true-colour terminals; NO_COLOR honoured)\n"
+     "--ramp S E N      N colours from S to E; --three adds the middle point 255 - S - E\n"
+     "example: kilnutil color Orange \"#336699\" --to lab\n"
+     "example: kilnutil color --ramp Red Blue 5 --three"},
 };
 
 }  // namespace
