@@ -17,7 +17,7 @@ namespace {
 
 using namespace ColorSpace;
 
-enum class Model { kXyz, kLab, kLch, kLuv, kYxy };
+enum class Model { kXyz, kLab, kLch, kLuv, kYxy, kHunterLab };
 
 struct Reference {
   unsigned rgb;
@@ -38,6 +38,7 @@ std::array<double, 3> components(Model model, const Rgb& rgb) {
     case Model::kLch: { Lch t; t.FromRgb(rgb); return {t.l, t.c, t.h}; }
     case Model::kLuv: { Luv t; t.FromRgb(rgb); return {t.l, t.u, t.v}; }
     case Model::kYxy: { Yxy t; t.FromRgb(rgb); return {t.Y, t.x, t.y}; }
+    case Model::kHunterLab: { HunterLab t; t.FromRgb(rgb); return {t.l, t.a, t.b}; }
   }
   return {};
 }
@@ -53,6 +54,25 @@ TEST(ColorModelReferences, PrimariesWhiteBlackAndGrayUnderD65) {
           << std::hex << r.rgb << " model " << static_cast<int>(r.model) << " component " << i;
     }
   }
+}
+
+// The hue and subtractive models of orange (255, 128, 0) in their own units.
+TEST(ColorModelReferences, HueAndSubtractiveModelsOfOrange) {
+  const Rgb orange(255, 128, 0);
+  Hsl hsl; Hsv hsv; Cmy cmy; Cmyk cmyk;
+  hsl.FromRgb(orange); hsv.FromRgb(orange); cmy.FromRgb(orange); cmyk.FromRgb(orange);
+  const double hue = 60 * 128 / 255.0;
+  const struct { const char* what; double got, want; } cases[] = {
+      {"Hsl h", hsl.h, hue}, {"Hsl s (percent)", hsl.s, 100}, {"Hsl l (percent)", hsl.l, 50},
+      {"Hsv h", hsv.h, hue}, {"Hsv s (fraction)", hsv.s, 1}, {"Hsv v (fraction)", hsv.v, 1},
+      {"Cmy m", cmy.m, 127 / 255.0}, {"Cmy y", cmy.y, 1},
+      {"Cmyk c", cmyk.c, 0}, {"Cmyk m", cmyk.m, 127 / 255.0}, {"Cmyk y", cmyk.y, 1}, {"Cmyk k", cmyk.k, 0},
+  };
+  for (const auto& c : cases) EXPECT_NEAR(c.got, c.want, 1e-12) << c.what;
+  Cmyk black;
+  black.FromRgb(Rgb(0, 0, 0));
+  EXPECT_EQ(black.k, 1);
+  EXPECT_EQ(black.c, 0);  // k = 1: no division by 1 - k
 }
 
 // A factory per concrete type, so every pair can be converted.
@@ -149,6 +169,24 @@ TEST(ColorModelRoundTrip, CieModelsComeBackToTheSameBytes) {
       }
     }
   }
+}
+
+// The integer HSL of the 0-240 scale against the fractional RGBtoHSL over
+// every third colour: both describe the same colour to within the coarser
+// scale. Hue rounded to 1/240 of the circle moves a channel by up to
+// 6 * 255 / 480 (about 3.2), lightness and saturation rounding add the rest;
+// the worst seen is 5.
+TEST(ColorModelRoundTrip, IntegerHslAgreesWithFractions) {
+  int worst = 0;
+  for (unsigned rgb = 0; rgb <= 0xFFFFFF; rgb += 3) {
+    double h, s, l;
+    RGBtoHSL(rgb, &h, &s, &l);
+    const unsigned back = HSLtoRGB(h, s, l);
+    for (int shift = 0; shift < 24; shift += 8) {
+      worst = std::max(worst, std::abs(static_cast<int>((back >> shift) & 0xFF) - static_cast<int>((rgb >> shift) & 0xFF)));
+    }
+  }
+  EXPECT_LE(worst, 5);
 }
 
 // Behaviour the models keep on purpose.

@@ -93,6 +93,7 @@ TEST(ColorUtilities, Reversal) {
       {"method 2 is LCH", RGB_reverse(0x123456, 10, 2), RGB_reverse_by_LCH(0x123456, 10)},
       {"method 3 is Lab", RGB_reverse(0x123456, 10, 3), RGB_reverse_by_LAB(0x123456, 10)},
       {"Lab only pulls", RGB_reverse_by_LAB(0x123456, 0), 0x123456},
+      {"Lab pulled all the way inverts L", RGB_reverse_by_LAB(0x000000, 100), 0xFFFFFF},
       {"HSV only pulls", RGB_reverse_by_HSV(0x0000FF, 0), 0x0000FF},
       {"LCH strength limited to 100", RGB_reverse_by_LCH(0x123456, 250), RGB_reverse_by_LCH(0x123456, 100)},
       // Saturated red at strength 1: saturation * 0.6, lightness 1 - max(0.2126, 0.3), pulled by 1%.
