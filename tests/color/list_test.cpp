@@ -92,6 +92,36 @@ TEST_F(ColorListTest, PaletteNumbersAndFixedCodes) {
   }
 }
 
+TEST_F(ColorListTest, CommandArguments) {
+  char small[3] = "xy";
+  EXPECT_EQ(command(KILNUTIL_COLOR_CMD_NAME, 1, small, sizeof small), 1);
+  EXPECT_STREQ(small, "Re");
+  EXPECT_EQ(command(KILNUTIL_COLOR_CMD_NAME, 1, nullptr, 10), 0);
+  EXPECT_EQ(command(KILNUTIL_COLOR_CMD_NAME, 1, small, 0), 0);
+  EXPECT_EQ(command(KILNUTIL_COLOR_CMD_NAME, 24, small, sizeof small), 0);
+  EXPECT_EQ(command(KILNUTIL_COLOR_CMD_RGB_WRAP, -23), 0x0000FF);  // -23 modulo 24 is 1: red
+  EXPECT_EQ(command(KILNUTIL_COLOR_CMD_RGB_WRAP, 48), 0);
+  EXPECT_EQ(command(KILNUTIL_COLOR_CMD_RGB, -1), KILNUTIL_COLOR_FAILED);
+  EXPECT_EQ(command(KILNUTIL_COLOR_CMD_FIND_EXACT, 0x7F0000FF), 2);  // the top byte is not compared
+  EXPECT_EQ(command(KILNUTIL_COLOR_CMD_FIND_EXACT, 0x010101), 0);
+  EXPECT_EQ(command(KILNUTIL_COLOR_CMD_FIND_NEAREST, 0x0000F0), 1);
+  EXPECT_EQ(command(KILNUTIL_COLOR_CMD_FIND_NAME), 0);  // null name
+
+  // A second entry of the same colour and name: the first is found.
+  char red[] = "Red";
+  ASSERT_EQ(command(KILNUTIL_COLOR_CMD_SET, 24, red, 0x0000FF), 1);
+  EXPECT_EQ(color_rgb_to_index(0x0000FF, 0), 1);
+  EXPECT_EQ(KILNUTIL_str2vcolor("red", 0), 2);
+  // Renaming keeps the colour; a null name keeps the name.
+  char renamed[] = "Scarlet";
+  ASSERT_EQ(command(KILNUTIL_COLOR_CMD_SET, 1, renamed, 0x0000FE), 1);
+  ASSERT_EQ(command(KILNUTIL_COLOR_CMD_SET, 1, nullptr, 0x0000FD), 1);
+  char name[KILNUTIL_COLOR_NAME_SIZE];
+  color_index_to_name(1, name, sizeof name);
+  EXPECT_STREQ(name, "Scarlet");
+  EXPECT_EQ(color_index_to_rgb(1, 0, nullptr), 0x0000FDu);
+}
+
 TEST_F(ColorListTest, SetCustomColoursAndRestore) {
   char name[] = "Teal";
   EXPECT_EQ(command(KILNUTIL_COLOR_CMD_SET, 24, name, 0x808000), 1);  // appends
