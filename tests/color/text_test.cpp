@@ -27,6 +27,11 @@ TEST(ColorTextRead, EveryForm) {
       {"R(1,2,3)", 0, 0},
       {"HSL(0,120,240)", 0, 0x010000FF},  // hue, lightness, saturation
       {"HSL(160,120,240)", 0, 0x01FF0000},
+      // Beyond the 0-240 scale: signed integer arithmetic, then the low bytes
+      // (m2 = 270, m1 = -30: red 287 -> 31, green and blue -31 -> 225).
+      {"HSL(0,120,300)", 0, 0x01E1E11F},
+      {"HSL(70000,120,240)", 0, 0x01000000},  // hue cut to 16 bits (4464), far past the circle: m1
+
       {"1,2,3", 0x10000, 1}, {" RGB(1,2,3)", 0x10000, 0x01030201},
       {"(0,120,240)", 0x20000, 0}, {"hsl(0,120,240)", 0x20000, 0x010000FF},
       {"5", 0, 5}, {"0", 0, 0}, {"abc", 0, 0}, {"100", 0, 100}, {"101", 0, 0x01000065}, {"255", 0, 0x010000FF},
