@@ -18,5 +18,6 @@ int run_base64(Args args);
 int run_stat(Args args);
 int run_sort(Args args);
 int run_invert(Args args);
+int run_color(Args args);
 
 }  // namespace kilnutil_cli

@@ -46,6 +46,14 @@ constexpr Command kCommands[] = {
      "FILE             the matrix (default: standard input)\n"
      "Prints the inverse with 17 significant digits, or fails with \"singular\" (exit 1).\n"
      "example: printf '4 7\\n2 6\\n' | kilnutil invert"},
+    {"color", "TEXT... [--to MODEL] | --list | --ramp START END N [--three]",
+     "colour strings in every colour model, the colour list, colour ramps", run_color,
+     "TEXT              a list name, #RGB, #RRGGBB, RGB(r,g,b), HSL(h,l,s) (0-240) or a number\n"
+     "--to MODEL        rgb, html, hsl, hsv, lab, lch, luv, xyz, yxy, cmy, cmyk, hunterlab or all (default)\n"
+     "--list            the colour list: number, name, #RRGGBB (a swatch on true-colour terminals; NO_COLOR honoured)\n"
+     "--ramp S E N      N colours from S to E; --three adds the middle point 255 - S - E\n"
+     "example: kilnutil color Orange \"#336699\" --to lab\n"
+     "example: kilnutil color --ramp Red Blue 5 --three"},
 };
 
 }  // namespace
