@@ -15,5 +15,9 @@ int run_date(Args args);
 int run_detect(Args args);
 int run_to_utf8(Args args);
 int run_base64(Args args);
+int run_section(Args args);
+int run_strip_comments(Args args);
+int run_path(Args args);
+int run_language(Args args);
 
 }  // namespace kilnutil_cli
