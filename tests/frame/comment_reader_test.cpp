@@ -61,6 +61,7 @@ TEST(CommentReader, BothSourcesTable) {
       {"a /* b */ c", "a  c", "a  c", 0},
       {"x // note\ny", "x \ny", "x \ny", 1},
       {"a \\  \nb\n", "a b\n", "a b\n", 2},  // the joined line is reported with the next line feed
+      {"a\\\r\nb\n", "ab\n", "ab\n", 3},  // a carriage return and line feed pair joins two
       {"a/b", "a/b", "a/", 0},              // the string source cannot give "b" back
       {"'\"' /* c */ x", "'\"'  x", "'\"'  x", 0},
       {"s = \"/* kept */ // kept\";", "s = \"/* kept */ // kept\";", "s = \"/* kept */ // kept\";", 0},
