@@ -187,4 +187,84 @@ struct KILNUTIL_API KILNUTILT {
 };
 #endif
 
+/* ---- Character sources: where the comment-skipping reader takes its
+ * characters from (an open stream or a UTF-8 string in memory). */
+#ifdef __cplusplus
+class KILNUTIL_API VTextAccess {
+public:
+  VTextAccess();
+  VTextAccess(const VTextAccess& other);
+  VTextAccess(VTextAccess&& other) noexcept;
+  VTextAccess& operator=(const VTextAccess& other);
+  VTextAccess& operator=(VTextAccess&& other) noexcept;
+  virtual ~VTextAccess();
+  /* The next character, advancing. */
+  virtual unsigned int GetChar(unsigned int flags) = 0;
+  /* Gives a character back. */
+  virtual void UnGetChar(unsigned int c, unsigned int flags) = 0;
+  /* Whether c, as returned by GetChar, means the end of the text. */
+  virtual bool IsEOF(unsigned int c) = 0;
+};
+
+/* A stdio stream read as UTF-8 (KILNUTIL_UTF8_fgetc/_ungetc); the stream is
+ * not owned and never closed here. End: 0xFFFFFFFF or the stream's end-of-file
+ * indicator. */
+class KILNUTIL_API VTextAccessFromFile : public VTextAccess {
+public:
+  explicit VTextAccessFromFile(FILE* stream);
+  VTextAccessFromFile(const VTextAccessFromFile& other);
+  VTextAccessFromFile(VTextAccessFromFile&& other) noexcept;
+  VTextAccessFromFile& operator=(const VTextAccessFromFile& other);
+  VTextAccessFromFile& operator=(VTextAccessFromFile&& other) noexcept;
+  ~VTextAccessFromFile() override;
+  unsigned int GetChar(unsigned int flags) override;
+  void UnGetChar(unsigned int c, unsigned int flags) override;
+  bool IsEOF(unsigned int c) override;
+
+private:
+  FILE* stream_;
+};
+
+/* A NUL-terminated UTF-8 string (not owned, not copied). GetChar gives
+ * 0xFFFFFFFF at the NUL without moving; UnGetChar does not move back (a
+ * character given back is skipped); IsEOF accepts 0 and 0xFFFFFFFF. */
+class KILNUTIL_API VTextAccessFromString : public VTextAccess {
+public:
+  explicit VTextAccessFromString(const char* text);
+  VTextAccessFromString(const VTextAccessFromString& other);
+  VTextAccessFromString(VTextAccessFromString&& other) noexcept;
+  VTextAccessFromString& operator=(const VTextAccessFromString& other);
+  VTextAccessFromString& operator=(VTextAccessFromString&& other) noexcept;
+  ~VTextAccessFromString() override;
+  unsigned int GetChar(unsigned int flags) override;
+  void UnGetChar(unsigned int c, unsigned int flags) override;
+  bool IsEOF(unsigned int c) override;
+
+private:
+  const char* start_;
+  const char* position_;
+};
+#else
+typedef struct VTextAccess VTextAccess;
+#endif
+
+KILNUTIL_BEGIN_C
+
+/* ---- The comment-skipping reader. Block comments ("/" "*" to "*" "/") yield
+ * nothing, line comments ("//") yield their line feed; a backslash before
+ * white space joins lines. *line (optional) grows by every line end consumed.
+ * A null source (stream) resets the reader's quote marks and returns 0. */
+#define KILNUTIL_COMMENT_END 0xFFFFFFFFu /* an unclosed block comment's result */
+KILNUTIL_API unsigned int KILNUTIL_getc_skip_C_comments_ex(VTextAccess* source, int* line, unsigned int flags);
+KILNUTIL_API unsigned int KILNUTIL_getc_skip_C_comments(FILE* stream, int* line, unsigned int flags);
+/* Skips the block comments that open text (none when one is never closed);
+ * flag KILNUTIL_COMMENTS_SKIP_SPACES also skips the white space behind each. */
+#define KILNUTIL_COMMENTS_SKIP_SPACES 0x1000
+KILNUTIL_API char* KILNUTIL_parse_C_comments(const char* text, unsigned int flags);
+/* Skips white space, leading block comments and one line comment ("//" or
+ * "#", up to its line feed). */
+KILNUTIL_API char* KILNUTIL_skip_CPP_comments_and_spaces(const char* text);
+
+KILNUTIL_END_C
+
 #endif /* KILNUTIL_FRAME_H */

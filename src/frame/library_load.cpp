@@ -5,6 +5,8 @@
 // no setting is reset and nothing is freed.
 #include "frame/library_load.h"
 
+#include "locale/language_state.h"
+
 #include <dlfcn.h>
 
 namespace kiln::frame {
@@ -28,8 +30,12 @@ bool attach_process() {
   //    none is at load time: nothing is written.
   // 2. Remember the module handle.
   g_module_instance = find_module_instance();
-  // 3. Priming the date formatter's tables and 4. choosing the resource
-  //    language have nothing to do before those subsystems hold state.
+  // 3. Priming the date formatter's tables has nothing to do: it holds no
+  //    state of its own.
+  // 4. Choose the resource language (which sets the string-process code
+  //    page) and make the thread language follow it.
+  kiln::locale::resource_language();
+  kiln::locale::setup_thread_language();
   // 5. Registering the script-window class is user-interface work: on POSIX
   //    there is no window class, so it succeeds without doing anything.
   return true;

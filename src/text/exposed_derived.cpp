@@ -1,5 +1,6 @@
 // Searches built on the exposed search: the last hit, a two-character
 // sequence, and a whole word.
+#include "frame/comment_reader.h"
 #include "text/exposed_search.h"
 #include "text/trim.h"
 
@@ -63,7 +64,7 @@ char* KILNUTIL_exposed_word_pos(const char* text, const char* word, unsigned int
   const bool match_case = (flags & kWordMatchCase) != 0;
   const unsigned search_flags = match_case ? 0 : kCaseBlind;
   for (const char* p = text;;) {
-    if (flags & kWordSkipComments) p = skip_spaces(p);
+    if (flags & kWordSkipComments) p = kiln::frame::skip_comments_and_spaces(p);
     const char* hit = exposed_char(p, first, search_flags);
     if (hit == nullptr) return nullptr;
     const char* after = nullptr;

@@ -47,11 +47,7 @@ bool walks_bytes() {
   return cp >= 1200 && cp <= 1254;
 }
 
-}  // namespace kiln::text
-
-using namespace kiln::text;
-
-char* KILNUTIL_strchr(const char* text, int c, unsigned int mode) {
+const char* strchr_search(const char* text, int c, unsigned mode) {
   if (text == nullptr || c <= 0) return nullptr;
   const auto ch = static_cast<unsigned>(c);
   const Target target{ch, (mode & kStrCharEitherCase) ? other_case(ch) : ch};
@@ -60,8 +56,14 @@ char* KILNUTIL_strchr(const char* text, int c, unsigned int mode) {
       walks_bytes()
           ? find_str_char(text, target, mode, [](const char*& p) { return read_byte(p); }, nesting)
           : find_str_char(text, target, mode, [](const char*& p) { return read_char(p); }, nesting);
-  return mutable_pos(hit);
+  return hit;
 }
+
+}  // namespace kiln::text
+
+using namespace kiln::text;
+
+char* KILNUTIL_strchr(const char* text, int c, unsigned int mode) { return mutable_pos(strchr_search(text, c, mode)); }
 
 char* KILNUTIL_strchr_reverse(const char* text, int c, const char* from) {
   if (text == nullptr || c <= 0) return nullptr;

@@ -98,6 +98,9 @@ const Ch* find_str_char(const Ch* text, const Match& matches, unsigned mode, Rea
 // by KILNUTIL_next_token, which reads tokens with it.
 PairNesting& strchr_nesting();
 
+// KILNUTIL_strchr: the search of c in narrow text by mode (0: exposed).
+const char* strchr_search(const char* text, int c, unsigned mode);
+
 // Whether narrow text is walked byte by byte: the string-process code page
 // (or the ANSI code page when none is set) is a Western one, 1200 to 1254.
 bool walks_bytes();

@@ -1,6 +1,7 @@
 // Reading and pushing back one character at a time: UTF-8 characters and
 // UTF-16 units from a stdio stream, or (flag 4) from one of the library's
 // byte sources.
+#include "unicode/char_stream.h"
 #include "unicode/utf8.h"
 
 #include <kilnutil/unicode.h>
@@ -60,7 +61,9 @@ bool is_wide_stream(unsigned flags) { return (flags & KILNUTIL_CHAR_WIDE_STREAM)
 
 }  // namespace
 
-int KILNUTIL_UTF8_fgetc(void* stream, unsigned int flags) {
+namespace kiln::unicode {
+
+int read_utf8_char(void* stream, unsigned flags) {
   if (stream == nullptr) return -1;
   ByteReader reader(stream, flags);
   if (flags & KILNUTIL_CHAR_RAW_UTF16) return read_raw_unit(reader);
@@ -71,16 +74,24 @@ int KILNUTIL_UTF8_fgetc(void* stream, unsigned int flags) {
   return read_utf8_character(reader);
 }
 
-void KILNUTIL_UTF8_ungetc(unsigned int c, void* stream, unsigned int flags) {
+void unread_utf8_char(unsigned c, void* stream, unsigned flags) {
   if (stream == nullptr) return;
   if (is_wide_stream(flags)) {
     std::ungetwc(static_cast<wint_t>(c), static_cast<FILE*>(stream));
     return;
   }
   char bytes[4];
-  const int count = kiln::unicode::utf8_encode(c, bytes);
+  const int count = utf8_encode(c, bytes);
   ByteReader reader(stream, flags);
   for (int i = count - 1; i >= 0; --i) reader.unget(static_cast<unsigned char>(bytes[i]));
+}
+
+}  // namespace kiln::unicode
+
+int KILNUTIL_UTF8_fgetc(void* stream, unsigned int flags) { return kiln::unicode::read_utf8_char(stream, flags); }
+
+void KILNUTIL_UTF8_ungetc(unsigned int c, void* stream, unsigned int flags) {
+  kiln::unicode::unread_utf8_char(c, stream, flags);
 }
 
 int KILNUTIL_UTF16_fgetc(void* stream, int big_endian, unsigned int flags) {

@@ -7,6 +7,7 @@
 #include "unicode/encoding_detect.h"
 #include "unicode/file_bytes.h"
 #include "unicode/global_text.h"
+#include "unicode/text_file_utf8.h"
 #include "unicode/utf16_stream_to_utf8.h"
 
 #include <kilnutil/unicode.h>
@@ -158,7 +159,7 @@ FILE* copy_utf16_text(TextFileToUTF8Context* context, FILE* stream, long long le
 
 }  // namespace
 
-static FILE* open_text_file_as_utf8(FILE* stream, TextFileToUTF8Context* context) {
+FILE* open_text_file_as_utf8(FILE* stream, TextFileToUTF8Context* context) {
   if (context == nullptr || context->path[0] == '\0' || context->fallback_mode == nullptr || stream == nullptr) {
     return stream;
   }
@@ -187,7 +188,7 @@ static FILE* open_text_file_as_utf8(FILE* stream, TextFileToUTF8Context* context
   return copy_code_page_text(context, raw, length, mark_size);
 }
 
-static void close_text_file_as_utf8(FILE* stream, TextFileToUTF8Context* context) {
+void close_text_file_as_utf8(FILE* stream, TextFileToUTF8Context* context) {
   if (stream != nullptr) std::fclose(stream);
   if (context == nullptr || stream == nullptr || stream != context->converted_stream) return;
   const std::string path = temporary_path_of(context);

@@ -19,5 +19,9 @@ int run_stat(Args args);
 int run_sort(Args args);
 int run_invert(Args args);
 int run_color(Args args);
+int run_section(Args args);
+int run_strip_comments(Args args);
+int run_path(Args args);
+int run_language(Args args);
 
 }  // namespace kilnutil_cli

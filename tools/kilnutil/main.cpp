@@ -54,6 +54,22 @@ constexpr Command kCommands[] = {
      "--ramp S E N      N colours from S to E; --three adds the middle point 255 - S - E\n"
      "example: kilnutil color Orange \"#336699\" --to lab\n"
      "example: kilnutil color --ramp Red Blue 5 --three"},
+    {"section", "FILE [NAME] | --list FILE", "a section of a sectioned text file as UTF-8, or the list of sections",
+     run_section,
+     "NAME     the section (case blind); \"\" the text before the first header; none: the whole file\n"
+     "--list   each header's line number (from 1) and name\n"
+     "example: kilnutil section settings.ini General"},
+    {"strip-comments", "[FILE|-]", "script text without its comments; the line count on stderr",
+     run_strip_comments,
+     "FILE     the script (UTF-8); - or none: standard input\n"
+     "example: kilnutil strip-comments script.qs"},
+    {"path", "check|split PATH...", "path syntax codes, or folder, name and extension", run_path,
+     "check    code and meaning of each path (exit code 1 when one is invalid)\n"
+     "split    folder, name and extension, separated by tabs\n"
+     "example: kilnutil path check 'C:\\data\\a.txt'"},
+    {"language", "[LETTER|NAME]", "the user-interface languages, or store a new choice", run_language,
+     "LETTER|NAME  E, G, J, C or English, German, Japanese, Chinese: stored for the next start\n"
+     "example: kilnutil language German"},
 };
 
 }  // namespace
