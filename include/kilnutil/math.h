@@ -69,7 +69,7 @@ KILNUTIL_API double KILNUTIL_smith_y_real_inv_space(double u, double v);
  * SEED); result to a double (an unsigned short index for FIND, a text buffer
  * of KILNUTIL_MATHFN_TEXT_SIZE chars for NAME, DESCRIPTION and HELP). */
 #define KILNUTIL_MATHFN_COMMAND(operation, index) \
-  ((unsigned int)(operation) | ((unsigned int)(index) << 16))
+  ((operation) | ((index) * 0x10000u))
 
 #define KILNUTIL_MATHFN_FIND 0u         /* name -> index; returns the argument count or 0 */
 #define KILNUTIL_MATHFN_EVALUATE 1u     /* returns the math error code */
