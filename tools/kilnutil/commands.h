@@ -15,5 +15,8 @@ int run_date(Args args);
 int run_detect(Args args);
 int run_to_utf8(Args args);
 int run_base64(Args args);
+int run_fn(Args args);
+int run_random(Args args);
+int run_smith(Args args);
 
 }  // namespace kilnutil_cli
