@@ -18,7 +18,51 @@ KILNUTIL_BEGIN_C
 KILNUTIL_API unsigned int get_error_code(void);
 KILNUTIL_API unsigned int KILNUTIL_get_error_code(void);
 
-/* ---- Special functions and distributions ---- */
+/* ---- Special functions and distributions ----
+ * Degrees of freedom: int where negative values are refused, unsigned where
+ * they are not expected; inside an argument block they are doubles truncated
+ * toward zero. A `_ptr` form writes its result through its pointer argument
+ * (nothing for a null pointer) and always returns 0. */
+KILNUTIL_API double gammaln(double x);                      /* ln Gamma, five-term series */
+KILNUTIL_API double gammln_export(double x);                /* ln Gamma, six-term series */
+KILNUTIL_API int ln_gamma_export_ptr(double x, double* out);
+KILNUTIL_API double beta(double a, double b);               /* complete beta B(a, b) */
+KILNUTIL_API int bico_export_ptr(unsigned int n, unsigned int k, double* out); /* n over k */
+KILNUTIL_API double incgamma(double x, double a);           /* P(a, x): x first */
+KILNUTIL_API double incbeta(double x, double a, double b);  /* I_x(a, b) */
+KILNUTIL_API double incomp_beta_export(const double* block); /* {x, a, b} */
+KILNUTIL_API int incomp_beta_export_ptr(const double* block, double* out);
+KILNUTIL_API double error_func_export(double x);            /* erf */
+KILNUTIL_API int error_func_export_ptr(double* inout);
+KILNUTIL_API double inverf(double y);                       /* inverse erf */
+KILNUTIL_API double inv_erf_export(double y);
+KILNUTIL_API double invncp(double p);                       /* normal quantile, AS 241 */
+KILNUTIL_API double invncp1(double p);                      /* normal quantile, sqrt(2) inverf(2p - 1) */
+KILNUTIL_API double invncp2(double p);                      /* normal quantile, Acklam */
+KILNUTIL_API double gauss_inv_export(double p);             /* invncp2 */
+KILNUTIL_API double prob(double x);                         /* erf(x / sqrt(2)) */
+KILNUTIL_API double cum_gauss_export(double x);             /* prob without the missing-value test */
+KILNUTIL_API int norm_prob_export_ptr(double x, double* out);
+KILNUTIL_API double invprob(double p);                      /* invncp2((p + 1) / 2) */
+KILNUTIL_API double inv_prob_export(double p);
+KILNUTIL_API int inv_prob_export_ptr(double p, double* out);
+KILNUTIL_API double KILNUTIL_cum_gauss_plus_one(double x);  /* 1 + erf(x / sqrt(2)) */
+KILNUTIL_API double KILNUTIL_cum_gauss(double x);           /* normal lower tail in percent */
+KILNUTIL_API double KILNUTIL_percent_prob(double pct);      /* normal quantile of pct percent */
+KILNUTIL_API double invt(double t, int df);                 /* Student t lower tail */
+KILNUTIL_API double probt(double t, int df);
+KILNUTIL_API double tTable(double p, int df);               /* Student t quantile */
+KILNUTIL_API double t_dist_export(const double* block);     /* {p, df}: coarse quantile */
+KILNUTIL_API int t_dist_export_ptr(const double* block, double* out);
+KILNUTIL_API double invf(double f, int df1, int df2);       /* F lower tail */
+KILNUTIL_API double Ftable(double p, unsigned int df1, unsigned int df2); /* F quantile */
+KILNUTIL_API double F_dist_export(const double* block);     /* {p, df1, df2} */
+KILNUTIL_API int F_dist_export_ptr(const double* block, double* out);
+KILNUTIL_API double invchisq(double x, unsigned int df);    /* chi-square lower tail */
+KILNUTIL_API int chisquare_prob_Q_export_ptr(double* out, double x, double df); /* upper tail */
+KILNUTIL_API double ChisqDist(double p, unsigned int df);   /* chi-square quantile, -1 on failure */
+KILNUTIL_API double Chisqr_dist_export(const double* block); /* {p, df} */
+KILNUTIL_API int Chisqr_dist_export_ptr(const double* block, double* out);
 
 
 /* ---- Rounding, precision and comparison ---- */
