@@ -66,6 +66,65 @@ KILNUTIL_API int Chisqr_dist_export_ptr(const double* block, double* out);
 
 
 /* ---- Rounding, precision and comparison ---- */
+/* x rounded to n decimal places (n > 308: x unchanged) by the algorithm the
+ * new-rounding switch selects; also exported as `round` (see below). */
+KILNUTIL_API double KILNUTIL_mround(double x, int n);
+/* x rounded to n significant digits; 10^n > 2147483647: missing value, code 1. */
+KILNUTIL_API double prec(double x, int n);
+/* The new-rounding switch (default 1): read and write through the pointer. */
+KILNUTIL_API unsigned char* IsRoundNewAlgorithm(void);
+
+/* Double to integer. nint, KILNUTIL_nint, nint2 clamp at the 32-bit range;
+ * KILNUTIL_tint, KILNUTIL_nnint, KILNUTIL_last_nint, KILNUTIL_lnint at
+ * +-2147483600; KILNUTIL_nint64 does not clamp. */
+KILNUTIL_API int nint(double x);               /* half away from zero */
+KILNUTIL_API int KILNUTIL_nint(double x);      /* same as nint */
+KILNUTIL_API int nint2(double x);              /* truncate, minus 1 when x < 0 */
+KILNUTIL_API long long KILNUTIL_nint64(double x); /* half away from zero, 64-bit */
+KILNUTIL_API int KILNUTIL_tint(double x);      /* truncate toward zero */
+KILNUTIL_API int KILNUTIL_nnint(double x);     /* ceiling */
+KILNUTIL_API int KILNUTIL_last_nint(double x); /* floor tolerating 1e-10 */
+KILNUTIL_API int KILNUTIL_lnint(double x);     /* the same, in single precision */
+
+/* Remainders. A zero divisor sets code 1 and gives 0, 0, the missing value, x. */
+KILNUTIL_API int mod(int a, int b);                    /* sign of the dividend */
+KILNUTIL_API int mod2(int a, int b);                   /* sign of the divisor */
+KILNUTIL_API double rmod(double x, double y);          /* fmod: sign of the dividend */
+KILNUTIL_API double KILNUTIL_mrmod2(double x, double y); /* x - floor(x/y)*y */
+
+/* Tolerant comparison: op is one of these; 0 stores a as the tolerance. */
+#define KILNUTIL_COMPARE_SET_TOLERANCE 0
+#define KILNUTIL_COMPARE_EQUAL 61     /* '=' */
+#define KILNUTIL_COMPARE_NOT_EQUAL 33 /* '!' */
+/* 0 or 1; tol equal to the missing value uses the default tolerance (1e-14). */
+KILNUTIL_API int KILNUTIL_double_compare_ex(double a, double b, double tol, int op);
+/* KILNUTIL_double_compare_ex with the is_equal tolerance (1e-14). */
+KILNUTIL_API int is_equal(double a, double b, int op);
+/* 1 for 0, the missing value and 0 < |x| < 1e-290. */
+KILNUTIL_API int KILNUTIL_test_double_for_zero(double x);
+
+/* Guarded power: 1 with *result written, 0 on failure. A null result with a
+ * base pointer sets the zero-to-the-power-zero switch to (*base > 0) and
+ * returns 1; with both null it returns the switch (default 0). */
+KILNUTIL_API int KILNUTIL_safe_power(double* result, const double* base, const double* exponent);
+/* base^exponent or the missing value (also exported as `pow`, see below). */
+KILNUTIL_API double KILNUTIL_pow(double base, double exponent);
+KILNUTIL_API double KILNUTIL_my_power(double base, double exponent);
+/* a/b, or fallback when an argument is missing or the quotient would overflow. */
+KILNUTIL_API double KILNUTIL_safe_double_divide(double a, double b, double fallback);
+/* Common logarithm, or the missing value for x <= 0; see IsReduceErrorForLog10. */
+KILNUTIL_API double KILNUTIL_mylog10(double x);
+/* The exact-log10 switch (default 0: ln(x)/ln(10)); read and write through it. */
+KILNUTIL_API unsigned char* IsReduceErrorForLog10(void);
+/* x rounded to a multiple of |inc|: up toward +infinity, or down tolerating
+ * 1e-10 of a step. */
+#define KILNUTIL_ROUND_TO_INC_DOWN 0
+#define KILNUTIL_ROUND_TO_INC_UP 1
+KILNUTIL_API double KILNUTIL_round_to_inc(double x, double inc, int up);
+/* get non-zero: *slot. Otherwise value is stored when below 101; returns *slot. */
+#define KILNUTIL_PERCENTAGE_SET 0
+#define KILNUTIL_PERCENTAGE_GET 1
+KILNUTIL_API int KILNUTIL_percentage_value(short* slot, int get, int value);
 
 
 /* ---- Elementary function wrappers ---- */

@@ -1,0 +1,153 @@
+// Remainders, tolerant comparison and the guarded power, division and log10.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "frame/missing_value.h"
+#include "math/compare.h"
+#include "math/error_code.h"
+#include "math/guarded.h"
+#include "math/power.h"
+#include "math/remainder.h"
+
+namespace {
+
+constexpr double kMissing = kiln::frame::kMissingValue;
+constexpr double kInf = std::numeric_limits<double>::infinity();
+
+struct IntRemainderCase {
+  int a, b, truncated, floored;
+};
+
+struct RealRemainderCase {
+  double x, y, truncated, floored;
+};
+
+TEST(MathGuardedArithmetic, RemaindersAndTheirZeroDivisor) {
+  const IntRemainderCase ints[] = {{-7, 3, -1, 2}, {7, -3, 1, -2}, {7, 3, 1, 1}, {-2147483647 - 1, -1, 0, 0}};
+  for (const IntRemainderCase& c : ints) {
+    if (c.b != -1) {  // the lowest value over -1 faults in the processor's division
+      EXPECT_EQ(kiln::math::remainder_truncated(c.a, c.b), c.truncated) << c.a;
+    }
+    EXPECT_EQ(kiln::math::remainder_floored(c.a, c.b), c.floored) << c.a;
+  }
+  const RealRemainderCase reals[] = {{-7, 3, -1, 2}, {5.5, -2, 1.5, -0.5}, {-0.25, 1, -0.25, 0.75}};
+  for (const RealRemainderCase& c : reals) {
+    EXPECT_EQ(kiln::math::remainder_truncated(c.x, c.y), c.truncated) << c.x;
+    EXPECT_EQ(kiln::math::remainder_floored(c.x, c.y), c.floored) << c.x;
+  }
+  struct ZeroDivisor {
+    double result;
+    double expected;
+  };
+  kiln::math::clear_error_code();
+  const ZeroDivisor zeros[] = {{static_cast<double>(kiln::math::remainder_truncated(5, 0)), 0.0},
+                               {static_cast<double>(kiln::math::remainder_floored(5, 0)), 0.0},
+                               {kiln::math::remainder_truncated(5.0, 0.0), kMissing},
+                               {kiln::math::remainder_floored(5.0, 0.0), 5.0}};
+  for (const ZeroDivisor& z : zeros) EXPECT_EQ(z.result, z.expected);
+  EXPECT_EQ(kiln::math::error_code(), KILNUTIL_MATH_ERR_DOMAIN);
+  kiln::math::clear_error_code();
+}
+
+struct CompareCase {
+  double a, b, tol;
+  int equal, not_equal;
+};
+
+TEST(MathGuardedArithmetic, ToleranceComparison) {
+  const CompareCase cases[] = {
+      {1, 1 + 1e-15, kMissing, 1, 0},  // the default tolerance 1e-14
+      {0, 1e-300, kMissing, 0, 1},     // zero is compared exactly
+      {1e-300, 0, kMissing, 0, 1},
+      {0, 0, kMissing, 1, 0},
+      {1, 1 + 1e-15, 0, 0, 1},  // tolerance 0: exact
+      {3, 1, 0.5, 0, 0},        // r = 0.5 exactly: neither equal nor unequal
+      {3, 1, 0.5000001, 1, 0},
+      {kMissing, kInf, kMissing, 1, 0},
+      {kMissing, kMissing, kMissing, 1, 0},
+      {std::nan(""), kMissing, kMissing, 1, 0},
+      {kMissing, 2.0, kMissing, 0, 1},
+  };
+  for (const CompareCase& c : cases) {
+    EXPECT_EQ(kiln::math::double_compare(c.a, c.b, c.tol, KILNUTIL_COMPARE_EQUAL), c.equal) << c.a << " " << c.b;
+    EXPECT_EQ(kiln::math::double_compare(c.a, c.b, c.tol, KILNUTIL_COMPARE_NOT_EQUAL), c.not_equal)
+        << c.a << " " << c.b;
+  }
+  EXPECT_EQ(kiln::math::double_compare(1, 1, 0, '<'), 0);
+}
+
+TEST(MathGuardedArithmetic, StoredTolerancesApplyUntilReset) {
+  EXPECT_EQ(kiln::math::is_equal(1e-3, 0, KILNUTIL_COMPARE_SET_TOLERANCE), 0);
+  EXPECT_EQ(kiln::math::is_equal(1.0, 1.0001, KILNUTIL_COMPARE_EQUAL), 1);
+  EXPECT_EQ(kiln::math::double_compare(1.0, 1.0001, kMissing, KILNUTIL_COMPARE_EQUAL), 0);
+  kiln::math::is_equal(1e-14, 0, KILNUTIL_COMPARE_SET_TOLERANCE);
+  kiln::math::double_compare(1e-3, 0, 0, KILNUTIL_COMPARE_SET_TOLERANCE);
+  EXPECT_EQ(kiln::math::double_compare(1.0, 1.0001, kMissing, KILNUTIL_COMPARE_EQUAL), 1);
+  kiln::math::double_compare(1e-14, 0, 0, KILNUTIL_COMPARE_SET_TOLERANCE);
+  EXPECT_EQ(kiln::math::is_equal(1.0, 1.0001, KILNUTIL_COMPARE_EQUAL), 0);
+}
+
+TEST(MathGuardedArithmetic, ZeroTest) {
+  const double values[] = {0.0, kMissing, 5e-291, -5e-291, 1e-289, 1.0};
+  const int expected[] = {1, 1, 1, 1, 0, 0};
+  for (int i = 0; i < 6; ++i) EXPECT_EQ(kiln::math::test_double_for_zero(values[i]), expected[i]) << values[i];
+}
+
+struct PowerCase {
+  double base, exponent, expected;
+};
+
+TEST(MathGuardedArithmetic, PowerDomainAndLimits) {
+  const PowerCase cases[] = {
+      {0, 0, kMissing},     {0, -1, kMissing}, {0, 2, 0},          {-8, 1.0 / 3, kMissing},
+      {-2, 3, -8},          {10, 400, kMissing}, {10, -400, 0},    {2, 0.5, std::sqrt(2.0)},
+      {kMissing, 1, kMissing}, {2, kMissing, kMissing}, {2, -1100, kMissing},  // underflow: range error
+      {-2, 2.0000000000000004, kMissing},  // whole within the is_equal tolerance, refused by the runtime
+  };
+  for (const PowerCase& c : cases) {
+    EXPECT_EQ(kiln::math::power_or_missing(c.base, c.exponent), c.expected) << c.base << "^" << c.exponent;
+  }
+  kiln::math::set_zero_power_zero_allowed(true);
+  EXPECT_EQ(kiln::math::power_or_missing(0, 0), 1.0);
+  kiln::math::set_zero_power_zero_allowed(false);
+
+  double written = -1;
+  EXPECT_FALSE(kiln::math::power_checked(10, 400, &written));
+  EXPECT_EQ(written, -1);  // decided before the runtime: nothing written
+  EXPECT_FALSE(kiln::math::power_checked(2, 2000, &written));
+  EXPECT_EQ(written, kInf);  // the runtime's overflow is written, then refused
+}
+
+TEST(MathGuardedArithmetic, DivideLogIncrementPercentage) {
+  EXPECT_EQ(kiln::math::divide_or(1, 1e-309, 7), 7);
+  EXPECT_EQ(kiln::math::divide_or(1, 0, 7), 7);
+  EXPECT_EQ(kiln::math::divide_or(kMissing, 2, 7), 7);
+  EXPECT_EQ(kiln::math::divide_or(1e-10, 1e-300, 7), 1e290);
+  EXPECT_EQ(kiln::math::divide_or(-3, 2, 7), -1.5);
+
+  EXPECT_EQ(kiln::math::log10_or_missing(0), kMissing);
+  EXPECT_EQ(kiln::math::log10_or_missing(kMissing), kMissing);
+  EXPECT_NE(kiln::math::log10_or_missing(1000), 3.0);  // ln(1000)/ln(10) is one ulp off
+  *kiln::math::exact_log10_flag() = 1;
+  EXPECT_EQ(kiln::math::log10_or_missing(1000), 3.0);
+  *kiln::math::exact_log10_flag() = 0;
+
+  struct IncrementCase {
+    double x, inc;
+    bool up;
+    double expected;
+  } increments[] = {{7.3, 2, true, 8},  {7.3, -2, false, 6}, {6.0 - 1e-11, 2, false, 6}, {-7.3, 2, true, -6},
+                    {5, 0, true, 5},    {0.7, 0.25, true, 0.75}};
+  for (const IncrementCase& c : increments) {
+    EXPECT_DOUBLE_EQ(kiln::math::round_to_increment(c.x, c.inc, c.up), c.expected) << c.x;
+  }
+
+  short slot = 40;
+  EXPECT_EQ(kiln::math::percentage_value(&slot, false, 150), 40);
+  EXPECT_EQ(kiln::math::percentage_value(&slot, false, 100), 100);
+  EXPECT_EQ(kiln::math::percentage_value(&slot, true, 5), 100);
+}
+
+}  // namespace

@@ -1,0 +1,124 @@
+// Rounding to places and digits, and the double-to-integer family.
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <limits>
+
+#include "frame/missing_value.h"
+#include "math/error_code.h"
+#include "math/nint.h"
+#include "math/rounding.h"
+
+namespace {
+
+using kiln::math::round_decimals_new;
+using kiln::math::round_decimals_old;
+
+struct RoundCase {
+  double x;
+  int n;
+  double new_result;
+  double old_result;
+};
+
+TEST(MathRounding, BothAlgorithms) {
+  const RoundCase cases[] = {
+      {2.5, 0, 3.0, 3.0},
+      {-2.5, 0, -3.0, -3.0},
+      {2.675, 2, 2.68, 2.67},  // a*s falls below 267.5: only the unscaled halfway test rounds up
+      {1.005, 2, 1.01, 1.0},   // the old form scales the fraction 0.00499999... and rounds down
+      {1234.5678, -2, 1200.0, 1234.0},
+      {-1234.5678, -2, -1200.0, -1234.0},
+      {0.125, 2, 0.13, 0.13},
+      {7.0, 3, 7.0, 7.0},
+      {-0.0049, 2, -0.0, -0.0},
+      {1e300, 5, 1e300, 1e300},
+  };
+  for (const RoundCase& c : cases) {
+    EXPECT_DOUBLE_EQ(round_decimals_new(c.x, c.n), c.new_result) << c.x << " " << c.n;
+    EXPECT_DOUBLE_EQ(round_decimals_old(c.x, c.n), c.old_result) << c.x << " " << c.n;
+  }
+}
+
+TEST(MathRounding, SwitchSelectsAlgorithmAndLargePlacesKeepX) {
+  unsigned char* flag = kiln::math::round_new_algorithm_flag();
+  ASSERT_EQ(*flag, 1);
+  EXPECT_EQ(kiln::math::round_decimals(1234.5678, -2), 1200.0);
+  *flag = 0;
+  EXPECT_EQ(kiln::math::round_decimals(1234.5678, -2), 1234.0);
+  *flag = 1;
+  EXPECT_EQ(kiln::math::round_decimals(0.123456789, 309), 0.123456789);
+}
+
+struct PrecCase {
+  double x;
+  int n;
+  double expected;
+};
+
+TEST(MathRounding, SignificantDigits) {
+  const PrecCase cases[] = {
+      {0.000123456, 3, 0.000123}, {123456.0, 2, 120000.0}, {-987.65, 4, -987.7},
+      {0.0, 5, 0.0},              {9.99, 2, 10.0},         {2.5, 1, 3.0},
+      {1e-310, 2, 1e-310},        {5e300, 9, 5e300},
+  };
+  for (const PrecCase& c : cases) {
+    EXPECT_NEAR(kiln::math::round_significant(c.x, c.n), c.expected, std::abs(c.expected) * 4e-16)
+        << c.x << " " << c.n;
+  }
+  kiln::math::clear_error_code();
+  EXPECT_EQ(kiln::math::round_significant(1.5, 10), kiln::frame::kMissingValue);
+  EXPECT_EQ(kiln::math::error_code(), KILNUTIL_MATH_ERR_DOMAIN);
+  kiln::math::clear_error_code();
+}
+
+TEST(MathRounding, CeilFloorRefuseMissingAndInfinite) {
+  const double inf = std::numeric_limits<double>::infinity();
+  EXPECT_EQ(kiln::math::ceil_or_missing(-2.5), -2.0);
+  EXPECT_EQ(kiln::math::floor_or_missing(-2.5), -3.0);
+  EXPECT_EQ(kiln::math::ceil_or_missing(kiln::frame::kMissingValue), kiln::frame::kMissingValue);
+  EXPECT_EQ(kiln::math::floor_or_missing(-inf), kiln::frame::kMissingValue);
+  EXPECT_EQ(kiln::math::ceil_or_missing(inf), kiln::frame::kMissingValue);
+}
+
+struct IntCase {
+  double x;
+  int nint, nint2, tint, nnint, last_nint, lnint;
+};
+
+TEST(MathRounding, IntegerFamilyWithTheirClamps) {
+  const IntCase cases[] = {
+      //  x              nint         nint2        tint         nnint        last_nint    lnint
+      {2.5, 3, 2, 2, 3, 2, 2},
+      {-2.5, -3, -3, -2, -2, -3, -3},
+      {-2.0, -2, -3, -2, -2, -2, -2},
+      {2.99999999999, 3, 2, 2, 3, 3, 3},
+      {2.9999999999, 3, 2, 2, 3, 2, 3},  // the single-precision step makes it whole
+      {2.9, 3, 2, 2, 3, 2, 2},
+      {-2.3, -2, -3, -2, -2, -2, -3},  // last_nint truncates x + 0.5: not the floor below zero
+      {3e9, 2147483647, 2147483647, 2147483600, 2147483600, 2147483600, 2147483600},
+      {-3e9, -2147483647 - 1, -2147483647 - 1, -2147483600, -2147483600, -2147483600, -2147483600},
+      {2147483646.7, 2147483647, 2147483646, 2147483600, 2147483600, 2147483600, 2147483600},
+  };
+  for (const IntCase& c : cases) {
+    EXPECT_EQ(kiln::math::nint(c.x), c.nint) << c.x;
+    EXPECT_EQ(kiln::math::nint2(c.x), c.nint2) << c.x;
+    EXPECT_EQ(kiln::math::tint(c.x), c.tint) << c.x;
+    EXPECT_EQ(kiln::math::nnint(c.x), c.nnint) << c.x;
+    EXPECT_EQ(kiln::math::last_nint(c.x), c.last_nint) << c.x;
+    EXPECT_EQ(kiln::math::lnint(c.x), c.lnint) << c.x;
+  }
+}
+
+TEST(MathRounding, WideAndNonFiniteConversionsAreDefined) {
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  const int lowest = std::numeric_limits<int>::min();
+  EXPECT_EQ(kiln::math::nint64(-5e12 - 0.5), -5000000000001LL);
+  EXPECT_EQ(kiln::math::nint64(1e19), std::numeric_limits<std::int64_t>::min());
+  EXPECT_EQ(kiln::math::nint64(-1e19), std::numeric_limits<std::int64_t>::min());
+  EXPECT_EQ(kiln::math::nint(nan), lowest);
+  EXPECT_EQ(kiln::math::last_nint(nan), std::numeric_limits<int>::max());
+  EXPECT_EQ(kiln::math::tint(nan), lowest);
+}
+
+}  // namespace
