@@ -9,6 +9,8 @@
 #include "math/error_code.h"
 #include "math/function_catalogue.h"
 #include "math/function_texts.h"
+#include "math/nint.h"
+#include "math/normal.h"
 #include "math/poisson.h"
 #include "math/random.h"
 #include "platform/clock.h"
@@ -34,13 +36,6 @@ const CatalogueEntry* entry_of(std::uint32_t command) {
   const std::span<const CatalogueEntry> functions = catalogue_functions();
   const std::size_t index = entry_index(command);
   return index < functions.size() ? &functions[index] : nullptr;
-}
-
-// A double truncated toward zero into the 32-bit range (NaN gives 0).
-std::int32_t truncate_to_int32(double x) {
-  if (std::isnan(x)) return 0;
-  const double whole = std::trunc(std::clamp(x, -2147483648.0, 2147483647.0));
-  return static_cast<std::int32_t>(whole);
 }
 
 void write_double(void* result, double value) {
@@ -136,7 +131,7 @@ std::uint32_t precision(const void* arguments, void* result) {
     set_error_code(KILNUTIL_MATH_ERR_DOMAIN);
     return error_code();
   }
-  write_double(result, routine_unavailable_array(static_cast<const double*>(arguments)));
+  write_double(result, prec_of(static_cast<const double*>(arguments)));
   return error_code();
 }
 
@@ -159,8 +154,8 @@ std::uint32_t run_math_function(std::uint32_t command, void* arguments, void* re
       const double mean = first_argument(arguments);
       return draw_with_dispatcher_seed(result, [mean](std::int32_t& seed) { return poisson_deviate(mean, seed); });
     }
-    case KILNUTIL_MATHFN_PROB: return apply_with_error_code(routine_unavailable, arguments, result);
-    case KILNUTIL_MATHFN_QUANTILE: return apply_with_error_code(routine_unavailable, arguments, result);
+    case KILNUTIL_MATHFN_PROB: return apply_with_error_code(normal_probability_unchecked, arguments, result);
+    case KILNUTIL_MATHFN_QUANTILE: return apply_with_error_code(normal_quantile_as241, arguments, result);
     case KILNUTIL_MATHFN_SIZE: write_double(result, KILNUTIL_MATHFN_COUNT + 1); return 0;
     case KILNUTIL_MATHFN_NAME:
     case KILNUTIL_MATHFN_DESCRIPTION:

@@ -32,13 +32,13 @@ double nint_wide(double v) {
   return static_cast<double>(nint64(v));
 }
 
+}  // namespace
+
 // Half away from zero: through nint inside the 32-bit range, else the wide form.
 double nint_any(double v) {
   if (v < kInt32Max && v > kInt32Min) return nint(v);
   return nint_wide(v);
 }
-
-}  // namespace
 
 unsigned char* round_new_algorithm_flag() { return &g_round_new_algorithm; }
 

@@ -161,6 +161,72 @@ TEST(MathCatalogue, FlagRulesAndAngleUnits) {
   EXPECT_EQ(result, kNanum) << "the end entry is not a function";
 }
 
+// The routines behind the names, reached through the dispatcher with the
+// arguments in script order (reference values from mpmath; the tolerance is
+// each routine's own accuracy).
+struct RoutineCase {
+  const char* name;
+  std::vector<double> arguments;
+  double expected;
+  double tolerance;  // relative
+  unsigned code;
+};
+
+TEST(MathCatalogue, RoutinesInScriptOrder) {
+  const RoutineCase cases[] = {
+      {"INCGAMMA", {2, 1}, 0.26424111765711536, 1e-10, 0},  // (a, x), not the library's (x, a)
+      {"INCBETA", {0.4, 2, 3}, 0.5248, 1e-6, 0},
+      {"INCF", {2, 3, 10}, 0.17800740737517541, 1e-6, 0},
+      {"INVF", {2, 3, 10}, 0.82199259262482459, 1e-6, 0},
+      {"FTABLE", {0.95, 3.9, 10.2}, 3.7082648190468431, 1e-6, 0},  // degrees of freedom truncated
+      {"TTABLE", {0.975, 10}, 2.2281388519862742, 1e-5, 0},
+      {"INVT", {2, 5.7}, 0.94903026058507082, 1e-6, 0},
+      {"BETA", {2.5, 1.5}, 0.19634954084936208, 1e-9, 0},
+      {"GAMMALN", {4.5}, 2.4537365708424422, 1e-9, 0},
+      {"PROB", {1}, 0.68268949213708590, 1e-10, 0},
+      {"INVPROB", {0.68268949213708590}, 1, 1e-8, 0},
+      {"ERF", {0}, 0, 0, 0},
+      {"INVERF", {1}, kNanum, 0, KILNUTIL_MATH_ERR_INVERF_PLUS_ONE},
+      {"ROUND", {2.675, 2.9}, 2.68, 0, 0},
+      {"PREC", {0.000123456, 3}, 0.000123, 1e-15, 0},
+      {"PREC", {5, 10}, kNanum, 0, 1},
+      {"MOD", {-7.9, 3}, -1, 0, 0},
+      {"MOD", {-2147483648.0, -1}, 0, 0, 0},  // the overflowing quotient is answered, not faulted
+      {"MOD", {5, 0}, 0, 0, 1},
+      {"MOD2", {-7, 3}, 2, 0, 0},
+      {"RMOD", {-7, 3}, -1, 0, 0},
+      {"RMOD2", {-7, 3}, 2, 0, 0},
+      {"RMOD2", {5, 0}, 5, 0, 1},
+      {"INT2", {-2}, -3, 0, 0},
+  };
+  for (const auto& c : cases) {
+    std::vector<double> arguments = c.arguments;
+    double result = 12345;
+    const unsigned returned =
+        call(KILNUTIL_MATHFN_COMMAND(KILNUTIL_MATHFN_EVALUATE, index_of(c.name)), arguments.data(), &result);
+    EXPECT_EQ(returned, c.code) << c.name;
+    EXPECT_NEAR(result, c.expected, c.tolerance * std::abs(c.expected)) << c.name;
+  }
+}
+
+// Commands 20, 21 and 100 return the error code of their routine;
+// KILNUTIL_percent_prob reaches the quantile through command 21.
+TEST(MathCatalogue, ProbabilityQuantileAndPrecisionCommands) {
+  double x = 1, result = 0;
+  EXPECT_EQ(call(KILNUTIL_MATHFN_PROB, &x, &result), 0u);
+  EXPECT_NEAR(result, 0.68268949213708590, 1e-10);
+  x = 0.975;
+  EXPECT_EQ(call(KILNUTIL_MATHFN_QUANTILE, &x, &result), 0u);
+  EXPECT_NEAR(result, 1.9599639845400539, 1e-14);
+  EXPECT_EQ(KILNUTIL_percent_prob(97.5), result);
+  double digits[] = {1234.5678, 2};
+  EXPECT_EQ(call(KILNUTIL_MATHFN_PREC, digits, &result), 0u);
+  EXPECT_EQ(result, 1200);
+  digits[1] = 11;
+  EXPECT_EQ(call(KILNUTIL_MATHFN_PREC, digits, &result), 1u);
+  EXPECT_EQ(result, kNanum);
+}
+
 TEST(MathCatalogue, CommandReturns) {
   double value = 0;
   EXPECT_EQ(call(KILNUTIL_MATHFN_SIZE, nullptr, &value), 0u);
