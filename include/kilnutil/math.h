@@ -126,8 +126,74 @@ KILNUTIL_API double KILNUTIL_round_to_inc(double x, double inc, int up);
 #define KILNUTIL_PERCENTAGE_GET 1
 KILNUTIL_API int KILNUTIL_percentage_value(short* slot, int get, int value);
 
+/* Exported under C runtime names: round (same as KILNUTIL_mround), ceil and
+ * floor (the missing value for the missing value and for an infinite result)
+ * and pow (same as KILNUTIL_pow). These and the elementary functions below
+ * that share a C runtime name are declared only when the including code
+ * defines KILNUTIL_DECLARE_RUNTIME_NAMES, because they clash with <math.h>;
+ * hosts usually reach them by name at run time, and a program that links the
+ * library at build time and calls the C runtime's functions itself lists the
+ * C math library ahead of this library. */
+#if defined(KILNUTIL_DECLARE_RUNTIME_NAMES)
+KILNUTIL_API double round(double x, int n);
+KILNUTIL_API double ceil(double x);
+KILNUTIL_API double floor(double x);
+KILNUTIL_API double pow(double base, double exponent);
+#endif
+
 
 /* ---- Elementary function wrappers ---- */
+/* Outside its domain a wrapper gives the missing value; those marked "code 1"
+ * also set the math error code to 1. An infinite result of cosh, sinh and tan
+ * gives the missing value. None of them clears the error code. */
+#if defined(KILNUTIL_DECLARE_RUNTIME_NAMES)
+KILNUTIL_API double sqrt(double x);   /* x < 0: code 1 */
+KILNUTIL_API double log10(double x);  /* x <= 0: code 1 */
+KILNUTIL_API double log1p(double x);  /* x <= -1: code 1 */
+KILNUTIL_API double expm1(double x);
+KILNUTIL_API double acos(double x);   /* |x| > 1: code 1 */
+KILNUTIL_API double asin(double x);   /* |x| > 1: code 1 */
+KILNUTIL_API double cosh(double x);
+KILNUTIL_API double sinh(double x);
+KILNUTIL_API double tan(double x);
+KILNUTIL_API double asinh(double x);
+KILNUTIL_API double acosh(double x);  /* |x| < 1 or x <= -1: missing value */
+KILNUTIL_API double atanh(double x);  /* |x| >= 1: missing value */
+KILNUTIL_API double hypot(double x, double y); /* a negative leg: code 1 */
+#endif
+/* x <= 0: code 1, unless the non-positive-logarithm switch is on; then the
+ * runtime's result (an infinity or NaN). */
+KILNUTIL_API double ln(double x);
+KILNUTIL_API double cot(double x);    /* 1/tan x; tan x exactly 0: missing */
+KILNUTIL_API double acot(double x);   /* pi/2 - atan x */
+KILNUTIL_API double coth(double x);   /* 1/tanh x */
+KILNUTIL_API double acoth(double x);  /* atanh(1/x); |x| <= 1: missing */
+KILNUTIL_API double secant(double x); /* 1/cos x */
+KILNUTIL_API double csc(double x);    /* 1/sin x */
+KILNUTIL_API double asec(double x);   /* acos(1/x); |x| < 1: missing */
+KILNUTIL_API double acsc(double x);   /* asin(1/x); |x| < 1: missing */
+KILNUTIL_API double sech(double x);   /* 1/cosh x */
+KILNUTIL_API double csch(double x);   /* 1/sinh x */
+KILNUTIL_API double asech(double x);  /* x <= 0 or x > 1: missing */
+KILNUTIL_API double acsch(double x);  /* x = 0: missing */
+/* Polar angle of (x, y) in [0, 2pi); (0, 0): code 1. */
+KILNUTIL_API double angle(double x, double y);
+/* Bessel functions by the C runtime; the second kind needs x > 0 (code 1).
+ * The order n is truncated toward zero. */
+KILNUTIL_API double J0(double x);
+KILNUTIL_API double J1(double x);
+KILNUTIL_API double Jn(double n, double x);
+KILNUTIL_API double Y0(double x);
+KILNUTIL_API double Y1(double x);
+KILNUTIL_API double Yn(double n, double x);
+/* x rounded to an unsigned 32-bit integer: a negative x gives nint(x) read as
+ * unsigned; x + 0.5 >= 4294967295 gives 4294967295. */
+KILNUTIL_API unsigned int nUINT(double x);
+/* The non-positive-logarithm switch (default 0): whether ln of x <= 0 passes
+ * the runtime's result through instead of the missing value with code 1.
+ * Set: stores (on != 0) and returns the previous value. Get: the value. */
+KILNUTIL_API int KILNUTIL_SetLnNonPositivePassThrough(int on);
+KILNUTIL_API int KILNUTIL_GetLnNonPositivePassThrough(void);
 
 
 /* ---- Random numbers ---- */
