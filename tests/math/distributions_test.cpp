@@ -115,6 +115,10 @@ TEST(MathDistChisq, QuantileAndItsMinusOneFailures) {
     EXPECT_EQ(Chisqr_dist_export(block), -1.0) << c.p << ", " << c.df;
   }
   EXPECT_EQ(Chisqr_dist_export(nullptr), -1.0);
+  // From about 6.7e7 degrees of freedom the start value is the result.
+  for (const Reference& r : special_test::kChisqStartRows) {
+    EXPECT_TRUE(close_to(ChisqDist(r.x, udf(r.y)), r.value, 1e-12)) << "p=" << r.x << " df=" << r.y;
+  }
   EXPECT_NO_FATAL_FAILURE(ChisqDist(kNaN, 3));  // ends within its iteration limit
 }
 

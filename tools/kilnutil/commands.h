@@ -18,5 +18,6 @@ int run_base64(Args args);
 int run_fn(Args args);
 int run_random(Args args);
 int run_smith(Args args);
+int run_stat(Args args);
 
 }  // namespace kilnutil_cli

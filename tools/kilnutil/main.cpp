@@ -43,6 +43,17 @@ constexpr Command kCommands[] = {
      "--reflect     reflect negative resistances through the unit circle\n"
      "--inverse U V chart point -> resistance and reactance\n"
      "example: kilnutil smith 0 1"},
+    {"stat", "FUNCTION ARG...|--list", "special functions, distributions and rounding: one value to 17 digits",
+     run_stat,
+     "FUNCTION ARG...  evaluate one function (integers where the list says DF, N or K)\n"
+     "--list           list the functions with their arguments\n"
+     "A failed evaluation prints the missing value, and the math error code with a\n"
+     "reason on stderr (exit 1).\n\n"
+     "examples:\n"
+     "  kilnutil stat t-quantile 0.975 10\n"
+     "  kilnutil stat chisq-cdf 3.84 1\n"
+     "  kilnutil stat normal-quantile 0.95\n"
+     "  kilnutil stat round 2.675 2"},
 };
 
 }  // namespace

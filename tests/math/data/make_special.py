@@ -83,6 +83,13 @@ def chisq_quantile(p, df):
     return bisect(lambda x: reg_gamma_p(x / 2, mp.mpf(df) / 2) - p, 0, 10 * df + 100)
 
 
+def chisq_start(p, m):
+    """The chi-square search's start value, returned as it is once
+    x * sqrt(2.2204e-16) >= 1: the deviate times ln(1 + 2/m), not its root."""
+    m = mp.mpf(m)
+    return mp.exp(normal_quantile(p) * mp.log(1 + 2 / m) + 2 * mp.log(m) - mp.log(m * m + 2 * m) / 2)
+
+
 def normal_quantile(p):
     with mp.workdps(400):  # 2p - 1 keeps p's digits even for p = 1e-300
         return +(mp.sqrt(2) * mp.erfinv(2 * mp.mpf(p) - 1))
@@ -123,6 +130,7 @@ TABLES = {
                       [(3.84, 1), (0.001, 1), (10, 10), (30, 10), (1, 40), (100, 100), (250, 200)]],
     'kChisqQuantileRows': [(p, df, 0, chisq_quantile(p, df)) for p, df in
                            [(0.95, 1), (0.5, 10), (0.01, 2), (0.999, 5), (0.05, 100), (0.9, 1000)]],
+    'kChisqStartRows': [(p, df, 0, chisq_start(p, df)) for p, df in [(0.9, 100000000), (0.001, 4000000000)]],
 }
 
 
