@@ -3,6 +3,7 @@
 
 #include "frame/missing_value.h"
 #include "math/block_args.h"
+#include "math/elementary.h"
 #include "math/error_code.h"
 #include "math/f_dist.h"
 #include "math/gamma.h"
@@ -105,12 +106,10 @@ double rmod_of(const double* xy) { return remainder_truncated(xy[0], xy[1]); }
 
 double rmod2_of(const double* xy) { return remainder_floored(xy[0], xy[1]); }
 
-double routine_unavailable(double x) {
-  (void)x;
-  set_error_code(KILNUTIL_MATH_ERR_DOMAIN);
-  return frame::kMissingValue;
-}
+double angle_of(const double* xy) { return script_angle(xy[0], xy[1]); }
 
-double routine_unavailable_array(const double* arguments) { return routine_unavailable(arguments[0]); }
+double bessel_jn_of(const double* nx) { return script_bessel_jn(nx[0], nx[1]); }
+
+double bessel_yn_of(const double* nx) { return script_bessel_yn(nx[0], nx[1]); }
 
 }  // namespace kiln::math

@@ -33,10 +33,8 @@ double mod_of(const double* ab);                      // MOD(a, b): sign of a
 double mod2_of(const double* ab);                     // MOD2(a, b): sign of b
 double rmod_of(const double* xy);                     // RMOD(x, y): fmod
 double rmod2_of(const double* xy);                    // RMOD2(x, y): x - floor(x/y)*y
-
-// Placeholders for routines that are not part of this build yet: they give
-// the missing value with math error code 1.
-double routine_unavailable(double x);
-double routine_unavailable_array(const double* arguments);
+double angle_of(const double* xy);                    // ANGLE(x, y): polar angle in [0, 2 pi)
+double bessel_jn_of(const double* nx);                // JN(n, x)
+double bessel_yn_of(const double* nx);                // YN(n, x)
 
 }  // namespace kiln::math

@@ -139,6 +139,22 @@ TEST(MathCatalogue, FlagRulesAndAngleUnits) {
       {"QCD4", {25}, KILNUTIL_MATHFN_UNIT_RADIANS, 1.541, 0},
       {"QCD4", {26}, KILNUTIL_MATHFN_UNIT_RADIANS, kNanum, 0},
       {"QCD4", {-1}, KILNUTIL_MATHFN_UNIT_RADIANS, kNanum, 0},
+      {"ASIN", {1}, KILNUTIL_MATHFN_UNIT_GRADIANS, 100, 0},
+      {"ACOS", {0}, KILNUTIL_MATHFN_UNIT_DEGREES, 90, 0},
+      {"ASEC", {2}, KILNUTIL_MATHFN_UNIT_DEGREES, 60, 0},
+      {"ACOT", {1}, KILNUTIL_MATHFN_UNIT_DEGREES, 45, 0},
+      {"ASEC", {0.5}, KILNUTIL_MATHFN_UNIT_DEGREES, kNanum, 0},  // a missing result is not converted
+      {"COT", {45}, KILNUTIL_MATHFN_UNIT_DEGREES, 1, 0},
+      {"TAN", {50}, KILNUTIL_MATHFN_UNIT_GRADIANS, 1, 0},
+      {"SECANT", {420}, KILNUTIL_MATHFN_UNIT_DEGREES, 2, 0},
+      {"SINH", {1}, KILNUTIL_MATHFN_UNIT_DEGREES, std::sinh(1.0), 0},  // hyperbolic arguments are not angles
+      {"SQRT", {6.25}, KILNUTIL_MATHFN_UNIT_RADIANS, 2.5, 0},
+      {"LOG", {1000}, KILNUTIL_MATHFN_UNIT_RADIANS, 3, 0},
+      {"LN1P", {1e-20}, KILNUTIL_MATHFN_UNIT_RADIANS, 1e-20, 0},
+      {"ACOSH", {0.5}, KILNUTIL_MATHFN_UNIT_RADIANS, kNanum, 0},  // the routine's own failure, no code
+      {"Y0", {0}, KILNUTIL_MATHFN_UNIT_RADIANS, kNanum, 1},       // the routine's own failure with code 1
+      {"ANGLE", {1, -1}, KILNUTIL_MATHFN_UNIT_DEGREES, 7 * pi / 4, 0},  // no angle flag: radians
+      {"JN", {1, 2.5}, KILNUTIL_MATHFN_UNIT_RADIANS, 0.49709410246427405, 0},
   };
   for (const auto& c : cases) {
     std::vector<double> arguments = c.arguments;
