@@ -48,7 +48,7 @@ std::int32_t advance(const Congruential& c, std::int32_t g) {
   return (c.multiplier * g + c.increment) % c.modulus;
 }
 
-void advance_all(std::atomic<std::int32_t>& state, const Congruential& c) {
+void advance_state(std::atomic<std::int32_t>& state, const Congruential& c) {
   state.store(advance(c, state.load(std::memory_order_relaxed)), std::memory_order_relaxed);
 }
 
@@ -67,8 +67,8 @@ void initialise(std::int32_t seed) {
   g_state3.store(g1 % kG3.modulus, std::memory_order_relaxed);
   g_state1.store(g1, std::memory_order_relaxed);
   for (std::atomic<double>& entry : g_table) {
-    advance_all(g_state1, kG1);
-    advance_all(g_state2, kG2);
+    advance_state(g_state1, kG1);
+    advance_state(g_state2, kG2);
     entry.store(table_value(), std::memory_order_relaxed);
   }
 }
@@ -91,9 +91,9 @@ double uniform_deviate(std::int32_t& seed) {
     initialise(seed);
     seed = 1;
   }
-  advance_all(g_state1, kG1);
-  advance_all(g_state2, kG2);
-  advance_all(g_state3, kG3);
+  advance_state(g_state1, kG1);
+  advance_state(g_state2, kG2);
+  advance_state(g_state3, kG3);
   std::atomic<double>& entry = g_table[table_index()];
   const double result = entry.load(std::memory_order_relaxed);
   entry.store(table_value(), std::memory_order_relaxed);

@@ -11,6 +11,7 @@
 #include <array>
 #include <cmath>
 #include <functional>
+#include <limits>
 #include <span>
 
 namespace {
@@ -72,6 +73,12 @@ TEST(RandomGenerator, SeedRules) {
   seed = 9;
   ran1_export(&seed);
   EXPECT_EQ(seed, 1) << "the first draw of a fresh generator initialises and sets the seed to 1";
+  // The most negative seed: 54773 - seed wraps in 32 bits, as the processor wraps it.
+  int lowest = std::numeric_limits<int>::min();
+  const double wrapped = ran1_export(&lowest);
+  EXPECT_EQ(lowest, 1);
+  EXPECT_GT(wrapped, -1.0);
+  EXPECT_LT(wrapped, 1.0);
   EXPECT_EQ(ran1_dev_export_ptr(0, nullptr), 0);
   EXPECT_NE(rnd(0), 0.0) << "a null pointer draws with seed 1";
 }
@@ -112,6 +119,29 @@ TEST(NormalGenerator, PairsAndSavedDeviate) {
   EXPECT_EQ(grnd(0), kNormalsAfterGrnd7[0]);
   grnd(7);  // grnd(n >= 1) drops the saved deviate
   EXPECT_EQ(grnd(0), kNormalsAfterGrnd7[0]);
+}
+
+// The polar method's deviates: mean 0, variance 1, 68.27% within one standard
+// deviation and the two deviates of a pair uncorrelated (five standard errors).
+TEST(NormalGenerator, Moments) {
+  constexpr int kPairs = 100000;
+  constexpr double n = 2.0 * kPairs;
+  grnd(99);
+  double sum = 0, sum_squares = 0, within_one = 0, cross = 0;
+  for (int i = 0; i < kPairs; ++i) {
+    const double first = grnd(0);
+    const double second = grnd(0);  // the saved half of the pair
+    for (const double z : {first, second}) {
+      sum += z;
+      sum_squares += z * z;
+      within_one += std::abs(z) < 1.0 ? 1 : 0;
+    }
+    cross += first * second;
+  }
+  EXPECT_NEAR(sum / n, 0.0, 5 / std::sqrt(n));
+  EXPECT_NEAR(sum_squares / n, 1.0, 5 * std::sqrt(2 / n));
+  EXPECT_NEAR(within_one / n, 0.6826894921370859, 5 * std::sqrt(0.2166 / n));
+  EXPECT_NEAR(cross / kPairs, 0.0, 5 / std::sqrt(double{kPairs}));
 }
 
 // Pearson's chi-square over 100 equal bins: 99 degrees of freedom, 148.23 is
