@@ -30,7 +30,8 @@ std::span<const CatalogueEntry> catalogue_with_end();
 std::span<const CatalogueEntry> catalogue_functions();
 
 // The index of the function named exactly `name` (upper case), trying the
-// last one found first; nothing for an unknown name or the end entry.
+// last one found first, then a binary search; nothing for an unknown name
+// or the end entry.
 std::optional<std::size_t> find_catalogue_function(const char* name);
 
 // Evaluates function `index` on `arguments` (as many doubles as it takes) in

@@ -6,7 +6,8 @@
 
 extern "C" {
 
-unsigned int KilnMath_function(void* context, unsigned int command, void* arguments, void* result, unsigned short unit) {
+unsigned int KilnMath_function(void* context, unsigned int command, void* arguments, void* result,
+                               unsigned short unit) {
   (void)context;
   return kiln::math::run_math_function(command, arguments, result, unit);
 }

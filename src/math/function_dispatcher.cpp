@@ -17,7 +17,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <cmath>
 #include <cstring>
 #include <string>
 
@@ -60,7 +59,8 @@ std::uint32_t find_by_name(const void* arguments, void* result) {
 
 std::uint32_t evaluate(std::uint32_t command, const void* arguments, void* result, unsigned unit) {
   double value = 0.0;
-  const unsigned code = evaluate_catalogue_function(entry_index(command), static_cast<const double*>(arguments), value, unit);
+  const auto* values = static_cast<const double*>(arguments);
+  const unsigned code = evaluate_catalogue_function(entry_index(command), values, value, unit);
   write_double(result, value);
   return code;
 }

@@ -95,7 +95,8 @@ constexpr FlagRule kFlagRules[] = {
 }  // namespace
 
 const FunctionText* find_function_text(std::uint16_t id) {
-  const auto* found = std::find_if(std::begin(kTexts), std::end(kTexts), [id](const FunctionText& t) { return t.id == id; });
+  const auto numbered = [id](const FunctionText& t) { return t.id == id; };
+  const auto* found = std::find_if(std::begin(kTexts), std::end(kTexts), numbered);
   return found == std::end(kTexts) ? nullptr : found;
 }
 
@@ -106,8 +107,9 @@ std::string function_help_text(std::uint16_t id, unsigned flags) {
   for (const FlagRule& rule : kFlagRules) {
     if ((flags & rule.flag) != 0) help += std::string("\n") + rule.text;
   }
-  if ((flags & (KILNUTIL_MATHFN_FLAG_NON_NEGATIVE | KILNUTIL_MATHFN_FLAG_POSITIVE | KILNUTIL_MATHFN_FLAG_UNIT_RANGE)) != 0)
-    help += "\nAn argument outside the domain gives 0 and math error code 1.";
+  constexpr unsigned kDomainFlags =
+      KILNUTIL_MATHFN_FLAG_NON_NEGATIVE | KILNUTIL_MATHFN_FLAG_POSITIVE | KILNUTIL_MATHFN_FLAG_UNIT_RANGE;
+  if ((flags & kDomainFlags) != 0) help += "\nAn argument outside the domain gives 0 and math error code 1.";
   return help;
 }
 

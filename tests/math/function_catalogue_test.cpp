@@ -159,8 +159,8 @@ TEST(MathCatalogue, FlagRulesAndAngleUnits) {
   for (const auto& c : cases) {
     std::vector<double> arguments = c.arguments;
     double result = 12345;
-    const unsigned returned = call(KILNUTIL_MATHFN_COMMAND(KILNUTIL_MATHFN_EVALUATE, index_of(c.name)), arguments.data(),
-                                   &result, c.unit);
+    const unsigned command = KILNUTIL_MATHFN_COMMAND(KILNUTIL_MATHFN_EVALUATE, index_of(c.name));
+    const unsigned returned = call(command, arguments.data(), &result, c.unit);
     EXPECT_EQ(returned, c.code) << c.name << '(' << c.arguments[0] << ") unit " << c.unit;
     EXPECT_EQ(get_error_code(), c.code) << c.name;
     if (c.expected == kNanum || c.expected == 0) {

@@ -8,6 +8,7 @@
 #include <kilnutil/math.h>
 
 #include <cctype>
+#include <cstdint>
 #include <cstdio>
 #include <cstring>
 #include <string>
@@ -74,7 +75,8 @@ int run_fn(Args args) {
   std::string name = upper_case(words[0]);
   std::uint16_t index = 0;
   const unsigned expected = call(KILNUTIL_MATHFN_FIND, name.data(), &index);
-  if (expected == 0) return usage_error("fn: unknown function '" + std::string(words[0]) + "' (see 'kilnutil fn --list')");
+  if (expected == 0)
+    return usage_error("fn: unknown function '" + std::string(words[0]) + "' (see 'kilnutil fn --list')");
   if (words.size() - 1 != expected)
     return usage_error("fn: " + name + " takes " + std::to_string(expected) + " argument" + (expected == 1 ? "" : "s"));
 
