@@ -22,8 +22,8 @@ double beta_density(double x, double a, double b, double ln_beta) {
   return std::exp((b - 1) * std::log(1 - x) + (a - 1) * std::log(x) - ln_beta);
 }
 
-// The start point: the median region for df2 > 1, far lower for df2 = 1
-// whose quantiles are large.
+// The start point: x = 1/2 (F = 1) when df1 = df2, scaled down for df2 = 1
+// (F = 1/10).
 double start_point(double df1, double df2) {
   const double scale = df2 < 1.5 ? 10.0 : 1.0;
   return df1 / (df2 * scale + df1);
@@ -42,13 +42,13 @@ double step_inside_unit_interval(double x, double step) {
 }
 
 // Newton's method; false when it did not settle: the cap was reached, or the
-// density underflowed and the step became infinite.
+// step is not a number (the density underflowed, or p is NaN).
 bool newton_on_beta(double p, double a, double b, double& x) {
   const double ln_beta = ln_complete_beta(a, b);
   for (int iteration = 0; iteration < kFQuantileIterationCap; ++iteration) {
     const double tail = incomplete_beta_or_minus_one(x, a, b);
     const double full_step = (p - tail) / beta_density(x, a, b, ln_beta);
-    if (std::isinf(full_step)) return false;
+    if (!std::isfinite(full_step)) return false;
     x = step_inside_unit_interval(x, full_step);
     if (!(std::fabs(full_step) > kStepTolerance)) return true;
   }
