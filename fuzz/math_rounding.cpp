@@ -4,6 +4,7 @@
 // no hang. The exports named like C runtime functions live only in the shared
 // library; their internal functions are called instead. Bessel orders are
 // kept below a million: the runtime's cost grows linearly with the order.
+#include <kilnutil/frame.h>
 #include <kilnutil/math.h>
 
 #include <cmath>
@@ -34,7 +35,7 @@ double take(const std::uint8_t*& data, std::size_t& size) {
 
 int as_int(double v) { return KILNUTIL_tint(v); }
 
-double bessel_order(double n) { return std::isfinite(n) ? std::fmod(n, 1e6) : n; }
+double bessel_order(double n) { return std::isfinite(n) ? std::fmod(n, 1e6) : n; }  // NaN, +-inf: NaN result
 
 void rounding(double x, double y, int n) {
   KILNUTIL_mround(x, n);
@@ -47,7 +48,7 @@ void rounding(double x, double y, int n) {
   nint2(x);
   KILNUTIL_nint64(x);
   KILNUTIL_lnint(x);
-  KILNUTIL_round_to_inc(x, y, n & 1);
+  KILNUTIL_round_to_inc(x, y, (n & 1) != 0 ? KILNUTIL_ROUND_TO_INC_UP : KILNUTIL_ROUND_TO_INC_DOWN);
   const int c = KILNUTIL_nnint(x);
   const int f = KILNUTIL_last_nint(x);
   const int t = KILNUTIL_tint(x);
@@ -59,9 +60,9 @@ void arithmetic(double x, double y, int a, int b) {
   mod2(a, b);
   rmod(x, y);
   KILNUTIL_mrmod2(x, y);
-  KILNUTIL_double_compare_ex(x, y, std::fabs(x - y), 61);
-  KILNUTIL_double_compare_ex(x, y, KILNUTIL_NANUM, 33);
-  is_equal(x, y, 61);
+  KILNUTIL_double_compare_ex(x, y, std::fabs(x - y), KILNUTIL_COMPARE_EQUAL);
+  KILNUTIL_double_compare_ex(x, y, KILNUTIL_NANUM, KILNUTIL_COMPARE_NOT_EQUAL);
+  is_equal(x, y, KILNUTIL_COMPARE_EQUAL);
   KILNUTIL_test_double_for_zero(x);
   double result = 0.0;
   KILNUTIL_safe_power(&result, &x, &y);
@@ -70,7 +71,7 @@ void arithmetic(double x, double y, int a, int b) {
   KILNUTIL_safe_double_divide(x, y, 7.0);
   KILNUTIL_mylog10(x);
   short slot = 50;
-  check(KILNUTIL_percentage_value(&slot, 0, a) == (a < 101 ? static_cast<short>(a) : 50));
+  check(KILNUTIL_percentage_value(&slot, KILNUTIL_PERCENTAGE_SET, a) == (a < 101 ? static_cast<short>(a) : 50));
 }
 
 void elementary(double x, double y) {
