@@ -25,8 +25,10 @@ double power_of_ten(double n) { return std::pow(10.0, n); }
 
 double with_sign_of(double magnitude, double x) { return x < 0 ? -magnitude : magnitude; }
 
-// Half away from zero in 64 bits, clamped at +-2^63.
+// Half away from zero in 64 bits, clamped at +-2^63; NaN (from an infinite
+// or NaN x) stays NaN.
 double nint_wide(double v) {
+  if (std::isnan(v)) return v;
   if (v >= kInt64Bound) return kInt64Bound;
   if (v <= -kInt64Bound) return -kInt64Bound;
   return static_cast<double>(nint64(v));

@@ -1,6 +1,7 @@
 // Rounding to places and digits, and the double-to-integer family.
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdint>
 #include <limits>
 
@@ -60,12 +61,13 @@ TEST(MathRounding, SignificantDigits) {
   const PrecCase cases[] = {
       {0.000123456, 3, 0.000123}, {123456.0, 2, 120000.0}, {-987.65, 4, -987.7},
       {0.0, 5, 0.0},              {9.99, 2, 10.0},         {2.5, 1, 3.0},
-      {1e-310, 2, 1e-310},        {5e300, 9, 5e300},
+      {1e-310, 2, 1e-310},        {5e300, 9, 5e300},          {-1.23456789e-300, 3, -1.23e-300},
   };
   for (const PrecCase& c : cases) {
     EXPECT_NEAR(kiln::math::round_significant(c.x, c.n), c.expected, std::abs(c.expected) * 4e-16)
         << c.x << " " << c.n;
   }
+  EXPECT_TRUE(std::isnan(kiln::math::round_significant(std::numeric_limits<double>::infinity(), 3)));
   kiln::math::clear_error_code();
   EXPECT_EQ(kiln::math::round_significant(1.5, 10), kiln::frame::kMissingValue);
   EXPECT_EQ(kiln::math::error_code(), KILNUTIL_MATH_ERR_DOMAIN);
@@ -99,6 +101,7 @@ TEST(MathRounding, IntegerFamilyWithTheirClamps) {
       {3e9, 2147483647, 2147483647, 2147483600, 2147483600, 2147483600, 2147483600},
       {-3e9, -2147483647 - 1, -2147483647 - 1, -2147483600, -2147483600, -2147483600, -2147483600},
       {2147483646.7, 2147483647, 2147483646, 2147483600, 2147483600, 2147483600, 2147483600},
+      {-2147483647.9, -2147483647 - 1, -2147483647 - 1, -2147483600, -2147483600, -2147483600, -2147483600},
   };
   for (const IntCase& c : cases) {
     EXPECT_EQ(kiln::math::nint(c.x), c.nint) << c.x;
