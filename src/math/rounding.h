@@ -22,6 +22,10 @@ unsigned char* round_new_algorithm_flag();
 // the missing value with error code 1.
 double round_significant(double x, int n);
 
+// 10^n exactly as the runtime's pow gives it (a table for whole n within
+// +-22, which the rounding functions mostly use).
+double power_of_ten(double n);
+
 // Ceiling and floor that give the missing value for the missing value and
 // for an infinite result.
 double ceil_or_missing(double x);
