@@ -26,6 +26,10 @@ double round_significant(double x, int n);
 // clamped at +-2^63 (the rounding step of significant digits and NINT).
 double nint_any(double v);
 
+// 10^n exactly as the runtime's pow gives it (a table for whole n within
+// +-22, which the rounding functions mostly use).
+double power_of_ten(double n);
+
 // Ceiling and floor that give the missing value for the missing value and
 // for an infinite result.
 double ceil_or_missing(double x);

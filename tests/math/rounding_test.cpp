@@ -41,6 +41,13 @@ TEST(MathRounding, BothAlgorithms) {
   }
 }
 
+// The tabled powers of ten must be the runtime's, or round(x, n) would depend
+// on which path produced 10^n.
+TEST(MathRounding, TabledPowersAgreeWithTheRuntime) {
+  for (int n = -24; n <= 24; ++n) EXPECT_EQ(kiln::math::power_of_ten(n), std::pow(10.0, n)) << n;
+  EXPECT_EQ(kiln::math::power_of_ten(0.5), std::pow(10.0, 0.5));
+}
+
 TEST(MathRounding, SwitchSelectsAlgorithmAndLargePlacesKeepX) {
   unsigned char* flag = kiln::math::round_new_algorithm_flag();
   ASSERT_EQ(*flag, 1);
