@@ -40,7 +40,7 @@ double finite_or_missing(double v) { return std::isinf(v) ? kMissingValue : v; }
 double reciprocal_or_missing(double v) { return equals_zero(v) ? kMissingValue : 1.0 / v; }
 
 // Bessel orders arrive as doubles: truncated toward zero and kept inside the
-// symmetric 32-bit range (NaN counts as the lowest order).
+// symmetric 32-bit range. (A non-finite order never gets here.)
 int bessel_order(double n) {
   const std::int32_t order = truncate_to_int32(n);
   return order == std::numeric_limits<std::int32_t>::min() ? -std::numeric_limits<std::int32_t>::max() : order;
@@ -161,14 +161,19 @@ double script_bessel_j0(double x) { return platform::bessel_j0(x); }
 
 double script_bessel_j1(double x) { return platform::bessel_j1(x); }
 
-double script_bessel_jn(double n, double x) { return platform::bessel_jn(bessel_order(n), x); }
+// A non-finite order gives NaN: the runtime's time grows with the order, and
+// such an order would otherwise become the largest one.
+double script_bessel_jn(double n, double x) {
+  return std::isfinite(n) ? platform::bessel_jn(bessel_order(n), x) : std::nan("");
+}
 
 double script_bessel_y0(double x) { return x <= 0 ? domain_error() : platform::bessel_y0(x); }
 
 double script_bessel_y1(double x) { return x <= 0 ? domain_error() : platform::bessel_y1(x); }
 
 double script_bessel_yn(double n, double x) {
-  return x <= 0 ? domain_error() : platform::bessel_yn(bessel_order(n), x);
+  if (x <= 0) return domain_error();
+  return std::isfinite(n) ? platform::bessel_yn(bessel_order(n), x) : std::nan("");
 }
 
 unsigned script_nuint(double x) {

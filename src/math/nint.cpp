@@ -26,10 +26,13 @@ bool clamp_narrow(double x, int& clamped) {
   return false;
 }
 
-// The 64-bit negation wraps for the lowest value as the processor's does.
+// Negation that wraps for the lowest value as the processor's does (nint of
+// -2147483647.9 rounds to 2147483648, which converts to the lowest value).
 std::int64_t negate_wrapping(std::int64_t v) {
   return static_cast<std::int64_t>(0u - static_cast<std::uint64_t>(v));
 }
+
+int negate_wrapping(int v) { return static_cast<int>(0u - static_cast<std::uint32_t>(v)); }
 
 // n - 1, wrapping for the lowest value (only NaN produces it here).
 int minus_one_wrapping(int n) {
@@ -52,7 +55,7 @@ int nint(double x) {
   if (x >= kInt32Upper) return std::numeric_limits<int>::max();
   if (x <= kInt32Lower) return std::numeric_limits<int>::min();
   const int magnitude = truncate_to_int32(std::fabs(x) + 0.5);
-  return x < 0 ? -magnitude : magnitude;
+  return x < 0 ? negate_wrapping(magnitude) : magnitude;
 }
 
 int nint2(double x) {

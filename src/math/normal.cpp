@@ -4,6 +4,7 @@
 #include "frame/missing_value.h"
 #include "math/error_code.h"
 #include "math/error_function.h"
+#include "math/function_dispatcher.h"
 #include "math/incomplete_gamma.h"
 
 #include <algorithm>
@@ -141,7 +142,11 @@ double normal_quantile_of_percent(double pct) {
   if (frame::is_missing(pct)) return frame::kMissingValue;
   if (pct >= 100) return 1e290;
   if (pct <= 0) return -1e290;
-  return normal_quantile_as241(pct / 100);
+  // The quantile is the math dispatcher's function 21, as the host reaches it.
+  double p = pct / 100;
+  double quantile = 0;
+  run_math_function(KILNUTIL_MATHFN_QUANTILE, &p, &quantile, KILNUTIL_MATHFN_UNIT_RADIANS);
+  return quantile;
 }
 
 }  // namespace kiln::math

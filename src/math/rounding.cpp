@@ -21,16 +21,26 @@ constexpr double kInt64Bound = 9223372036854775808.0;
 // Plain byte: the host writes it through the pointer IsRoundNewAlgorithm returns.
 unsigned char g_round_new_algorithm = 1;
 
-double power_of_ten(double n) { return std::pow(10.0, n); }
-
 double with_sign_of(double magnitude, double x) { return x < 0 ? -magnitude : magnitude; }
 
-// Half away from zero in 64 bits, clamped at +-2^63.
+// Half away from zero in 64 bits, clamped at +-2^63; NaN (from an infinite
+// or NaN x) stays NaN.
 double nint_wide(double v) {
+  if (std::isnan(v)) return v;
   if (v >= kInt64Bound) return kInt64Bound;
   if (v <= -kInt64Bound) return -kInt64Bound;
   return static_cast<double>(nint64(v));
 }
+
+// The powers of ten the rounding uses most, as the runtime's pow gives them
+// (every one correctly rounded); others come from pow itself.
+constexpr int kTabledPower = 22;
+constexpr double kPowersOfTen[2 * kTabledPower + 1] = {
+    1e-22, 1e-21, 1e-20, 1e-19, 1e-18, 1e-17, 1e-16, 1e-15, 1e-14, 1e-13, 1e-12, 1e-11, 1e-10, 1e-9, 1e-8,
+    1e-7,  1e-6,  1e-5,  1e-4,  1e-3,  1e-2,  1e-1,  1e0,   1e1,   1e2,   1e3,   1e4,   1e5,   1e6,  1e7,
+    1e8,   1e9,   1e10,  1e11,  1e12,  1e13,  1e14,  1e15,  1e16,  1e17,  1e18,  1e19,  1e20,  1e21, 1e22};
+
+}  // namespace
 
 // Half away from zero: through nint inside the 32-bit range, else the wide form.
 double nint_any(double v) {
@@ -38,7 +48,12 @@ double nint_any(double v) {
   return nint_wide(v);
 }
 
-}  // namespace
+double power_of_ten(double n) {
+  if (n >= -kTabledPower && n <= kTabledPower && n == std::trunc(n)) {
+    return kPowersOfTen[static_cast<int>(n) + kTabledPower];
+  }
+  return std::pow(10.0, n);
+}
 
 unsigned char* round_new_algorithm_flag() { return &g_round_new_algorithm; }
 

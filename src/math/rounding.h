@@ -22,6 +22,14 @@ unsigned char* round_new_algorithm_flag();
 // the missing value with error code 1.
 double round_significant(double x, int n);
 
+// Half away from zero: nint inside the 32-bit range, else the 64-bit form
+// clamped at +-2^63 (the rounding step of significant digits and NINT).
+double nint_any(double v);
+
+// 10^n exactly as the runtime's pow gives it (a table for whole n within
+// +-22, which the rounding functions mostly use).
+double power_of_ten(double n);
+
 // Ceiling and floor that give the missing value for the missing value and
 // for an infinite result.
 double ceil_or_missing(double x);

@@ -1,6 +1,7 @@
 // Rounding to places and digits, and the double-to-integer family.
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdint>
 #include <limits>
 
@@ -40,6 +41,13 @@ TEST(MathRounding, BothAlgorithms) {
   }
 }
 
+// The tabled powers of ten must be the runtime's, or round(x, n) would depend
+// on which path produced 10^n.
+TEST(MathRounding, TabledPowersAgreeWithTheRuntime) {
+  for (int n = -24; n <= 24; ++n) EXPECT_EQ(kiln::math::power_of_ten(n), std::pow(10.0, n)) << n;
+  EXPECT_EQ(kiln::math::power_of_ten(0.5), std::pow(10.0, 0.5));
+}
+
 TEST(MathRounding, SwitchSelectsAlgorithmAndLargePlacesKeepX) {
   unsigned char* flag = kiln::math::round_new_algorithm_flag();
   ASSERT_EQ(*flag, 1);
@@ -60,12 +68,13 @@ TEST(MathRounding, SignificantDigits) {
   const PrecCase cases[] = {
       {0.000123456, 3, 0.000123}, {123456.0, 2, 120000.0}, {-987.65, 4, -987.7},
       {0.0, 5, 0.0},              {9.99, 2, 10.0},         {2.5, 1, 3.0},
-      {1e-310, 2, 1e-310},        {5e300, 9, 5e300},
+      {1e-310, 2, 1e-310},        {5e300, 9, 5e300},          {-1.23456789e-300, 3, -1.23e-300},
   };
   for (const PrecCase& c : cases) {
     EXPECT_NEAR(kiln::math::round_significant(c.x, c.n), c.expected, std::abs(c.expected) * 4e-16)
         << c.x << " " << c.n;
   }
+  EXPECT_TRUE(std::isnan(kiln::math::round_significant(std::numeric_limits<double>::infinity(), 3)));
   kiln::math::clear_error_code();
   EXPECT_EQ(kiln::math::round_significant(1.5, 10), kiln::frame::kMissingValue);
   EXPECT_EQ(kiln::math::error_code(), KILNUTIL_MATH_ERR_DOMAIN);
@@ -99,6 +108,7 @@ TEST(MathRounding, IntegerFamilyWithTheirClamps) {
       {3e9, 2147483647, 2147483647, 2147483600, 2147483600, 2147483600, 2147483600},
       {-3e9, -2147483647 - 1, -2147483647 - 1, -2147483600, -2147483600, -2147483600, -2147483600},
       {2147483646.7, 2147483647, 2147483646, 2147483600, 2147483600, 2147483600, 2147483600},
+      {-2147483647.9, -2147483647 - 1, -2147483647 - 1, -2147483600, -2147483600, -2147483600, -2147483600},
   };
   for (const IntCase& c : cases) {
     EXPECT_EQ(kiln::math::nint(c.x), c.nint) << c.x;

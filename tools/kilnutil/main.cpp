@@ -23,6 +23,26 @@ constexpr Command kCommands[] = {
     {"detect", "FILE...", "encoding of each file: code, name and mark size", run_detect},
     {"to-utf8", "FILE [-o OUT] [-c CODEPAGE]", "a text file's contents as UTF-8", run_to_utf8},
     {"base64", "[-d] [FILE|-]", "Base64 of a file, or with -d the bytes of Base64 text", run_base64},
+    {"fn", "NAME [ARG...] [--unit rad|deg|grad] | --list", "evaluate a script math function by name, or list them",
+     run_fn,
+     "NAME          a catalogue function, in any letter case\n"
+     "ARG...        its arguments (as many as 'fn --list' shows)\n"
+     "--unit U      angle unit: rad (default), deg or grad\n"
+     "--list        list the functions with argument counts and descriptions\n"
+     "example: kilnutil fn sin 90 --unit deg"},
+    {"random", "[--seed N] [--normal|--poisson MEAN] [COUNT]", "deviates from the library's random generators",
+     run_random,
+     "--seed N        seed the generators with N (1 or more); the same seed gives the same numbers\n"
+     "--normal        standard normal deviates\n"
+     "--poisson MEAN  Poisson deviates of the given mean\n"
+     "COUNT           how many (default 10)\n"
+     "example: kilnutil random --seed 5 --normal 4"},
+    {"smith", "[--reflect] R X | --inverse U V", "Smith chart point of an impedance, or the impedance of a point",
+     run_smith,
+     "R X           normalised resistance and reactance -> chart point u v\n"
+     "--reflect     reflect negative resistances through the unit circle\n"
+     "--inverse U V chart point -> resistance and reactance\n"
+     "example: kilnutil smith 0 1"},
     {"stat", "FUNCTION ARG...|--list", "special functions, distributions and rounding: one value to 17 digits",
      run_stat,
      "FUNCTION ARG...  evaluate one function (integers where the list says DF, N or K)\n"

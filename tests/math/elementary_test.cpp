@@ -1,0 +1,137 @@
+// The elementary function wrappers: values against mpmath references, and
+// each domain rule with whether it sets the error code.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <map>
+#include <string>
+
+#include "frame/missing_value.h"
+#include "math/elementary.h"
+#include "math/error_code.h"
+
+namespace {
+
+namespace m = kiln::math;
+constexpr double kMissing = kiln::frame::kMissingValue;
+constexpr double kInf = std::numeric_limits<double>::infinity();
+
+using Function = double (*)(double, double);
+
+// Every wrapper as a function of (x, y); unary ones ignore y.
+const std::map<std::string, Function>& functions() {
+  static const std::map<std::string, Function> table = {
+      {"sqrt", [](double x, double) { return m::script_sqrt(x); }},
+      {"ln", [](double x, double) { return m::script_ln(x); }},
+      {"log10", [](double x, double) { return m::script_log10(x); }},
+      {"log1p", [](double x, double) { return m::script_log1p(x); }},
+      {"expm1", [](double x, double) { return m::script_expm1(x); }},
+      {"acos", [](double x, double) { return m::script_acos(x); }},
+      {"asin", [](double x, double) { return m::script_asin(x); }},
+      {"cosh", [](double x, double) { return m::script_cosh(x); }},
+      {"sinh", [](double x, double) { return m::script_sinh(x); }},
+      {"tan", [](double x, double) { return m::script_tan(x); }},
+      {"asinh", [](double x, double) { return m::script_asinh(x); }},
+      {"acosh", [](double x, double) { return m::script_acosh(x); }},
+      {"atanh", [](double x, double) { return m::script_atanh(x); }},
+      {"cot", [](double x, double) { return m::script_cot(x); }},
+      {"acot", [](double x, double) { return m::script_acot(x); }},
+      {"coth", [](double x, double) { return m::script_coth(x); }},
+      {"acoth", [](double x, double) { return m::script_acoth(x); }},
+      {"secant", [](double x, double) { return m::script_secant(x); }},
+      {"csc", [](double x, double) { return m::script_csc(x); }},
+      {"asec", [](double x, double) { return m::script_asec(x); }},
+      {"acsc", [](double x, double) { return m::script_acsc(x); }},
+      {"sech", [](double x, double) { return m::script_sech(x); }},
+      {"csch", [](double x, double) { return m::script_csch(x); }},
+      {"asech", [](double x, double) { return m::script_asech(x); }},
+      {"acsch", [](double x, double) { return m::script_acsch(x); }},
+      {"hypot", m::script_hypot},
+      {"angle", m::script_angle},
+      {"J0", [](double x, double) { return m::script_bessel_j0(x); }},
+      {"J1", [](double x, double) { return m::script_bessel_j1(x); }},
+      {"Jn", m::script_bessel_jn},
+      {"Y0", [](double x, double) { return m::script_bessel_y0(x); }},
+      {"Y1", [](double x, double) { return m::script_bessel_y1(x); }},
+      {"Yn", m::script_bessel_yn},
+  };
+  return table;
+}
+
+struct Reference {
+  const char* name;
+  double x, y, value;
+};
+
+const Reference kReferences[] = {
+#include "math/data/elementary_reference.inc"
+};
+
+TEST(MathElementary, ValuesMatchHighPrecisionReferences) {
+  for (const Reference& r : kReferences) {
+    const double actual = functions().at(r.name)(r.x, r.y);
+    EXPECT_NEAR(actual, r.value, std::fabs(r.value) * 1e-13 + 1e-300) << r.name << "(" << r.x << ", " << r.y << ")";
+  }
+}
+
+struct DomainCase {
+  const char* name;
+  double x, y;
+  double expected;  // the missing value or an exact result
+  unsigned code;    // the error code afterwards, from 0
+};
+
+TEST(MathElementary, DomainRulesAndWhichOnesSetTheCode) {
+  const DomainCase cases[] = {
+      {"sqrt", -1, 0, kMissing, 1},       {"sqrt", kMissing, 0, kMissing, 1},
+      {"ln", 0, 0, kMissing, 1},          {"log10", -5, 0, kMissing, 1},
+      {"log1p", -1, 0, kMissing, 1},      {"log1p", 1e-20, 0, 1e-20, 0},
+      {"expm1", 1e-17, 0, 1e-17, 0},      {"acos", 1.0000001, 0, kMissing, 1},
+      {"asin", -2, 0, kMissing, 1},       {"hypot", -3, 4, kMissing, 1},
+      {"hypot", 3, -0.0, 3, 0},           {"angle", 0, 0, kMissing, 1},
+      {"Y0", 0, 0, kMissing, 1},          {"Y1", -1, 0, kMissing, 1},
+      {"Yn", 2, 0, kMissing, 1},          {"cosh", 711, 0, kMissing, 0},
+      {"sinh", -711, 0, kMissing, 0},     {"tan", kMissing, 0, kMissing, 0},
+      {"asinh", kMissing, 0, kMissing, 0}, {"acosh", 0.5, 0, kMissing, 0},
+      {"acosh", -1, 0, kMissing, 0},      {"acosh", -2, 0, kMissing, 0},
+      {"atanh", 1, 0, kMissing, 0},       {"cot", 0, 0, kMissing, 0},
+      {"cot", 1e-300, 0, 1e300, 0},       {"coth", 0, 0, kMissing, 0},
+      {"acoth", 1, 0, kMissing, 0},       {"acoth", kMissing, 0, kMissing, 0},
+      {"csc", 0, 0, kMissing, 0},         {"csch", -0.0, 0, kMissing, 0},
+      {"asec", 0.5, 0, kMissing, 0},      {"acsc", -0.5, 0, kMissing, 0},
+      {"asech", 0, 0, kMissing, 0},       {"asech", 1.5, 0, kMissing, 0},
+      {"acsch", 0, 0, kMissing, 0},       {"sech", 1000, 0, 0, 0},
+      {"acot", kMissing, 0, kMissing, 0}, {"secant", kMissing, 0, kMissing, 0},
+      {"angle", 1, -1, 7 * M_PI / 4, 0},  {"angle", -1, 0, M_PI, 0},
+      {"angle", 0, -2, 4.71238898038469, 0}, {"angle", 0, 3, M_PI / 2, 0},
+  };
+  for (const DomainCase& c : cases) {
+    m::clear_error_code();
+    EXPECT_DOUBLE_EQ(functions().at(c.name)(c.x, c.y), c.expected) << c.name << "(" << c.x << ", " << c.y << ")";
+    EXPECT_EQ(m::error_code(), c.code) << c.name << "(" << c.x << ", " << c.y << ")";
+  }
+  m::clear_error_code();
+}
+
+TEST(MathElementary, LogarithmPassThroughSwitch) {
+  m::set_ln_non_positive_passes_through(true);
+  m::clear_error_code();
+  EXPECT_EQ(m::script_ln(0), -kInf);
+  EXPECT_TRUE(std::isnan(m::script_ln(-1)));
+  EXPECT_EQ(m::error_code(), 0u);
+  EXPECT_EQ(m::script_log10(0), kMissing);  // the switch is ln's alone
+  m::set_ln_non_positive_passes_through(false);
+  m::clear_error_code();
+}
+
+TEST(MathElementary, UnsignedRounding) {
+  const struct {
+    double x;
+    unsigned expected;
+  } cases[] = {{4294967294.6, 4294967295u}, {-1.6, 4294967294u}, {2.5, 3u},
+               {4294967293.4, 4294967293u}, {1e20, 4294967295u}, {-3e9, 2147483648u}};
+  for (const auto& c : cases) EXPECT_EQ(m::script_nuint(c.x), c.expected) << c.x;
+}
+
+}  // namespace

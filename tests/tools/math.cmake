@@ -1,0 +1,20 @@
+# kilnutil fn, random and smith: catalogue evaluation with angle units and
+# errors, reproducible deviates, Smith chart points both ways.
+kilnutil_cli_test(NAME fn.degrees ARGS fn sin 450 --unit deg STDOUT "^1\n$")
+kilnutil_cli_test(NAME fn.gradian_result ARGS fn ASIN 1 --unit grad STDOUT "^100\n$")
+kilnutil_cli_test(NAME fn.two_arguments ARGS fn atan2 1 0 --unit deg STDOUT "^90\n$")
+kilnutil_cli_test(NAME fn.domain ARGS fn acos 1.5 RC 1 STDERR "ACOS: math error code 1")
+kilnutil_cli_test(NAME fn.no_value ARGS fn qcd4 26 RC 1 STDOUT "^--\n$" STDERR "no value")
+kilnutil_cli_test(NAME fn.unknown ARGS fn foo 1 RC 2 STDERR "unknown function 'foo'")
+kilnutil_cli_test(NAME fn.argument_count ARGS fn sin RC 2 STDERR "SIN takes 1 argument")
+kilnutil_cli_test(NAME fn.not_a_number ARGS fn sin x RC 1 STDERR "x: not a number")
+kilnutil_cli_test(NAME fn.bad_unit ARGS fn sin 1 --unit turns RC 2 STDERR "--unit takes")
+kilnutil_cli_test(NAME fn.list ARGS fn --list STDOUT "^ABS +1  Absolute.*\nSIN +1  .*\nYN +2  [^\n]*\n$")
+kilnutil_cli_test(NAME random.seeded ARGS random --seed 5 2
+  STDOUT "^0.82954732153531152\n0.69596203961486869\n$")
+kilnutil_cli_test(NAME random.poisson ARGS random --seed 5 --poisson 4 3 STDOUT "^[0-9]+\n[0-9]+\n[0-9]+\n$")
+kilnutil_cli_test(NAME random.bad_seed ARGS random --seed 0 RC 2 STDERR "--seed takes")
+kilnutil_cli_test(NAME smith.forward ARGS smith 0 1 STDOUT "^0 1\n$")
+kilnutil_cli_test(NAME smith.reflect ARGS smith --reflect -0.5 0 STDOUT "^-0.33333333333333331 0\n$")
+kilnutil_cli_test(NAME smith.inverse ARGS smith --inverse 0 0 STDOUT "^1 0\n$")
+kilnutil_cli_test(NAME smith.pole ARGS smith -1 0 RC 1 STDERR "no chart point")
