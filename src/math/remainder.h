@@ -1,5 +1,5 @@
 // The four remainders. A zero divisor sets error code 1; the result is then
-// 0, 0, the missing value and x respectively.
+// 0 (both integer forms), the missing value (fmod) or x (the floored form).
 #pragma once
 
 namespace kiln::math {

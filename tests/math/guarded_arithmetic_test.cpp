@@ -4,6 +4,8 @@
 #include <cmath>
 #include <limits>
 
+#include <kilnutil/frame.h>
+
 #include "frame/missing_value.h"
 #include "math/compare.h"
 #include "math/error_code.h"
@@ -76,6 +78,14 @@ TEST(MathGuardedArithmetic, ToleranceComparison) {
         << c.a << " " << c.b;
   }
   EXPECT_EQ(kiln::math::double_compare(1, 1, 0, '<'), 0);
+}
+
+TEST(MathGuardedArithmetic, NonFiniteSwitchOffUsesTheRelativeFormula) {
+  KILNUTIL_TreatNonFiniteNumericAsNANUM(0, 0);
+  EXPECT_EQ(kiln::math::double_compare(kMissing, kInf, kMissing, KILNUTIL_COMPARE_EQUAL), 0);  // r is NaN
+  EXPECT_EQ(kiln::math::double_compare(kMissing, kMissing, kMissing, KILNUTIL_COMPARE_EQUAL), 1);
+  EXPECT_EQ(kiln::math::double_compare(kMissing, 2.0, kMissing, KILNUTIL_COMPARE_NOT_EQUAL), 1);
+  KILNUTIL_TreatNonFiniteNumericAsNANUM(0, 1);
 }
 
 TEST(MathGuardedArithmetic, StoredTolerancesApplyUntilReset) {
