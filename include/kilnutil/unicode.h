@@ -148,7 +148,11 @@ KILNUTIL_API int KILNUTIL_ConvertUNICODEtoMBCS(const char* src_path, const char*
 /* A file handle of KILNUTIL_UTF8_CreateFile: the file descriptor (close it
  * with close()); INVALID_HANDLE_VALUE on failure. */
 typedef void* HANDLE;
-#  define INVALID_HANDLE_VALUE ((HANDLE)(long)-1)
+#  ifdef __cplusplus
+#    define INVALID_HANDLE_VALUE (reinterpret_cast<HANDLE>(static_cast<long>(-1)))
+#  else
+#    define INVALID_HANDLE_VALUE ((HANDLE)(long)-1)
+#  endif
 #endif
 /* fopen of a UTF-8 path; text modes ("rt", "rt, ccs=UTF-8") open as "r". */
 KILNUTIL_API FILE* KILNUTIL_UTF8_fopen(const char* path, const char* mode);

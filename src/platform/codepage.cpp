@@ -1,6 +1,7 @@
 // Code pages on ICU: converters with the Windows-compatible tables, one per
 // code page and thread, opened on first use and kept for the thread's life.
 #include "platform/codepage.h"
+#include "platform/uchar_text.h"
 
 #include <unicode/ucnv.h>
 #include <unicode/ucnv_cb.h>
@@ -180,7 +181,7 @@ void substitute_and_record(const void* context, UConverterFromUnicodeArgs* args,
   *status = U_ZERO_ERROR;
   if (substitution->default_char != nullptr) {
     const char* bytes = substitution->default_char;
-    ucnv_cbFromUWriteBytes(args, bytes, static_cast<int32_t>(std::strlen(bytes) > 1 ? 2 : 1), 0, status);
+    ucnv_cbFromUWriteBytes(args, bytes, std::strlen(bytes) > 1 ? 2 : 1, 0, status);
   } else {
     ucnv_cbFromUWriteSub(args, 0, status);
   }
@@ -194,7 +195,7 @@ bool convert_run_to_multibyte(UConverter* converter, const KILN_WCHAR* run, int 
   UErrorCode status = U_ZERO_ERROR;
   ucnv_setFromUCallBack(converter, substitute_and_record, &substitution, &previous_callback, &previous_context,
                         &status);
-  const UChar* source = reinterpret_cast<const UChar*>(run);
+  const UChar* source = as_uchars(run);
   const UChar* source_end = source + run_length;
   char buffer[512];
   bool ok = true;

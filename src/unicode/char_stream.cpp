@@ -74,7 +74,8 @@ int KILNUTIL_UTF8_fgetc(void* stream, unsigned int flags) {
 void KILNUTIL_UTF8_ungetc(unsigned int c, void* stream, unsigned int flags) {
   if (stream == nullptr) return;
   if (is_wide_stream(flags)) {
-    std::ungetwc(static_cast<wint_t>(c), static_cast<FILE*>(stream));
+    const std::wint_t wide = c;
+    std::ungetwc(wide, static_cast<FILE*>(stream));
     return;
   }
   char bytes[4];

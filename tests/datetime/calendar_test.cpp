@@ -141,7 +141,7 @@ TEST(CalendarRules, LeapYearsAndMonthLengths) {
   for (const auto& [year, leap] : {std::pair{1900, 0}, {2000, 1}, {2024, 1}, {2023, 0}}) {
     EXPECT_EQ(KILNUTIL_IsLeapYear(static_cast<unsigned short>(year)), leap) << year;
   }
-  const struct { int month, year, days; } lengths[] = {
+  const struct { unsigned short month; int year, days; } lengths[] = {
       {1, 0, 28}, {1, -1, 29}, {1, 2000, 29}, {1, 1900, 28}, {12, 2000, 0}, {3, 2000, 30}, {11, -5, 31}};
   for (const auto& c : lengths) {
     EXPECT_EQ(KILNUTIL_GetNumDaysInMonth(c.month, c.year), c.days) << c.month << " " << c.year;

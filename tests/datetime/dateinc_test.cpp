@@ -29,7 +29,8 @@ double int_argument(int n) {
 
 TEST(DateInc, AddAndUnknownOperations) {
   EXPECT_EQ(dateinc(0, 100, 2.5), std::pair(0, 102.5));
-  for (unsigned short unknown : {8, 12, 49}) EXPECT_EQ(dateinc(unknown, 100, 1), std::pair(0, 100.0));
+  const unsigned short unknown_operations[] = {8, 12, 49};
+  for (unsigned short unknown : unknown_operations) EXPECT_EQ(dateinc(unknown, 100, 1), std::pair(0, 100.0));
 }
 
 // Operation 1 steps the calendar by a month (unit 6), quarter (7) or year

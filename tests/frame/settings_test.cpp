@@ -207,7 +207,7 @@ TEST(OutputIndent, StepsInAndOut) {
   EXPECT_STREQ(KILNUTIL_access_quill_output_indent(0), "");
 }
 
-class FakeHost : public KilnHostAccess {
+class FakeHost final : public KilnHostAccess {
 public:
   int host_operation1() override { return -1; }
   int host_operation2() override { return -1; }

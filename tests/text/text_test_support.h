@@ -5,6 +5,7 @@
 #include <kilnutil/frame.h>
 #include <kilnutil/text.h>
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <utility>
@@ -63,6 +64,6 @@ class Text {
 };
 
 // Offset of a returned position in text, or -1 for null.
-inline long offset(const char* text, const char* p) { return p == nullptr ? -1 : static_cast<long>(p - text); }
+inline std::ptrdiff_t offset(const char* text, const char* p) { return p == nullptr ? -1 : p - text; }
 
 }  // namespace text_test

@@ -11,7 +11,7 @@
 namespace {
 
 // A byte source over a string, giving back any number of bytes.
-class StringByteSource : public KilnByteSource {
+class StringByteSource final : public KilnByteSource {
 public:
   explicit StringByteSource(std::string bytes) : bytes_(std::move(bytes)) {}
   int next_byte() override {
