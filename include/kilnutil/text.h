@@ -27,6 +27,11 @@ KILNUTIL_API unsigned char KILNUTIL_test_char(int c);
 KILNUTIL_API int KILNUTIL_isspace(int c);
 /* 1 for the double quote, 2 for the single quote, else 0. */
 KILNUTIL_API int KILNUTIL_is_quote_char(int c);
+/* The pair class of an opener: 1 "(", 2 "{", 3 the double quote, 4 "[";
+ * else 0. The class indexes the closer table ")", "}", double quote, "]". */
+KILNUTIL_API int is_begin_quote(int c);
+/* The pair class of a closer: 1 ")", 2 "}", 3 the double quote, 4 "]"; else 0. */
+KILNUTIL_API int is_end_quote(int c);
 
 /* ---- General character search. Mode bit 0 clear: c outside brackets and
  * double-quoted sections ("(" ")", "{" "}", "[" "]", one kind at a time).

@@ -45,3 +45,21 @@ TEST(IsSpace, SpaceAndNineToThirteenAndTheNoBreakSpaceWhenOn) {
   }
   EXPECT_EQ(KILNUTIL_isspace(-1), 0);
 }
+
+// The three quote and pair classifications differ on purpose: the single
+// quote is a quote but no pair, and only the pair tests know brackets.
+TEST(QuoteClasses, QuoteCharAndPairOpenersAndClosers) {
+  struct Case {
+    int c;
+    int quote, begin, end;
+  } cases[] = {
+      {'"', 1, 3, 3}, {'\'', 2, 0, 0}, {'(', 0, 1, 0}, {')', 0, 0, 1}, {'{', 0, 2, 0}, {'}', 0, 0, 2},
+      {'[', 0, 4, 0}, {']', 0, 0, 4},  {'<', 0, 0, 0}, {'>', 0, 0, 0}, {'`', 0, 0, 0}, {0, 0, 0, 0},
+      {0x122, 0, 0, 0}, {0x128, 0, 0, 0}, {-1, 0, 0, 0}, {-0x100 + '(', 0, 0, 0},
+  };
+  for (const Case& c : cases) {
+    EXPECT_EQ(KILNUTIL_is_quote_char(c.c), c.quote) << c.c;
+    EXPECT_EQ(is_begin_quote(c.c), c.begin) << c.c;
+    EXPECT_EQ(is_end_quote(c.c), c.end) << c.c;
+  }
+}
