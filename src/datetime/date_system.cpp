@@ -5,11 +5,10 @@
 
 #include "datetime/calendar.h"
 #include "platform/clock.h"
+#include "unicode/ascii_case.h"
 
 #include <kilnutil/datetime.h>
 #include <kilnutil/numeric.h>
-
-#include <strings.h>
 
 namespace kiln::datetime {
 namespace {
@@ -51,11 +50,11 @@ double offset_of_code(int code) {
 }
 
 int code_of_name(const char* name) {
-  if (name == nullptr || *name == '\0' || strcasecmp(name, "Active") == 0) return kActiveCode;
-  if (strcasecmp(name, "Vela-JulianDate") == 0) return kDefaultCode;
-  if (strcasecmp(name, "JulianDate") == 0) return kAstronomicalCode;
-  if (strcasecmp(name, "6PM") == 0) return kSixPmCode;
-  if (strcasecmp(name, "1899-12-30") == 0) return kSerialCode;
+  if (name == nullptr || *name == '\0' || unicode::equal_ignoring_ascii_case(name, "Active")) return kActiveCode;
+  if (unicode::equal_ignoring_ascii_case(name, "Vela-JulianDate")) return kDefaultCode;
+  if (unicode::equal_ignoring_ascii_case(name, "JulianDate")) return kAstronomicalCode;
+  if (unicode::equal_ignoring_ascii_case(name, "6PM")) return kSixPmCode;
+  if (unicode::equal_ignoring_ascii_case(name, "1899-12-30")) return kSerialCode;
   int year = 0;
   if ((name[0] == '1' || name[0] == '2') && KILNUTIL_cvtstr2int(name, &year) && is_year_code(year)) return year;
   return kUnknownCode;

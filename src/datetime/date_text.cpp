@@ -2,11 +2,11 @@
 #include "datetime/date_text.h"
 
 #include "datetime/calendar.h"
+#include "unicode/ascii_case.h"
 
 #include <kilnutil/datetime.h>
 
 #include <cstring>
-#include <strings.h>
 
 namespace kiln::datetime {
 namespace {
@@ -64,7 +64,7 @@ int weekday_index(const char* text) {
   while (length > 0 && is_blank(text[length - 1])) --length;
   for (int day = 0; day < 7; ++day) {
     const std::size_t name_length = std::strlen(kWeekdayNames[day]);
-    if ((length == name_length || length == kAbbreviationLength) && strncasecmp(text, kWeekdayNames[day], length) == 0) {
+    if ((length == name_length || length == kAbbreviationLength) && unicode::equal_ignoring_ascii_case(text, kWeekdayNames[day], length)) {
       return day;
     }
   }

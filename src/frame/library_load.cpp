@@ -1,23 +1,16 @@
 // Work done when the library is loaded into a process.
 //
-// On Windows the entry point does this at process attach; here a library
-// constructor runs the same steps in the same order. There is no unload work:
-// no setting is reset and nothing is freed.
+// The platform's load hook (platform/library_load.h) runs these steps once,
+// at process attach. There is no unload work: no setting is reset and nothing
+// is freed.
 #include "frame/library_load.h"
 
-#include <dlfcn.h>
+#include "platform/library_load.h"
 
 namespace kiln::frame {
 namespace {
 
 void* g_module_instance = nullptr;
-
-// The module's own address: what resource loading would use as its handle.
-void* find_module_instance() {
-  Dl_info info{};
-  if (dladdr(reinterpret_cast<void*>(&find_module_instance), &info) != 0) return info.dli_fbase;
-  return nullptr;
-}
 
 }  // namespace
 
@@ -27,7 +20,7 @@ bool attach_process() {
   // 1. The load notice goes to the diagnostic log only when one is open, and
   //    none is at load time: nothing is written.
   // 2. Remember the module handle.
-  g_module_instance = find_module_instance();
+  g_module_instance = platform::library_base_address();
   // 3. Priming the date formatter's tables and 4. choosing the resource
   //    language have nothing to do before those subsystems hold state.
   // 5. Registering the script-window class is user-interface work: on POSIX
@@ -37,4 +30,4 @@ bool attach_process() {
 
 }  // namespace kiln::frame
 
-__attribute__((constructor)) static void kilnutil_on_load() { kiln::frame::attach_process(); }
+bool kiln::platform::on_process_attach() { return kiln::frame::attach_process(); }

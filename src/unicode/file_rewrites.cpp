@@ -1,8 +1,8 @@
 #include "unicode/file_rewrites.h"
 
 #include "unicode/code_page_text.h"
-#include "unicode/file_bytes.h"
-#include "unicode/file_replacement.h"
+#include "platform/file_bytes.h"
+#include "platform/file_replacement.h"
 
 #include <kilnutil/unicode.h>
 
@@ -11,6 +11,13 @@
 #include <cstring>
 
 namespace kiln::unicode {
+
+using platform::FileBytes;
+using platform::ReadStatus;
+using platform::read_whole_file;
+using platform::ReplaceStatus;
+using platform::replace_file;
+using platform::stream_size;
 
 namespace {
 

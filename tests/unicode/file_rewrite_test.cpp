@@ -1,6 +1,6 @@
 #include "test_files.h"
 
-#include "unicode/file_replacement.h"
+#include "platform/file_replacement.h"
 #include "unicode/file_rewrites.h"
 
 #include <kilnutil/frame.h>
@@ -23,6 +23,8 @@ using kiln_test::iconv_convert;
 using kiln_test::read_file;
 using kiln_test::TempFolder;
 using kiln_test::write_file;
+using kiln::platform::FileReplacement;
+using kiln::platform::ReplaceStatus;
 
 const std::string kMark = "\xEF\xBB\xBF";
 const std::string kCafe = "caf\xC3\xA9 cr\xC3\xA8me\n";

@@ -1,4 +1,4 @@
-#include "unicode/file_replacement.h"
+#include "platform/file_replacement.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -9,7 +9,7 @@
 #include <cstdlib>
 #include <vector>
 
-namespace kiln::unicode {
+namespace kiln::platform {
 
 namespace {
 
@@ -114,4 +114,4 @@ ReplaceStatus replace_file(const char* path, std::initializer_list<ByteRange> co
   return replacement.commit();
 }
 
-}  // namespace kiln::unicode
+}  // namespace kiln::platform
