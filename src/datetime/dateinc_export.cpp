@@ -208,7 +208,7 @@ int query(const double* value, double* argument, const unsigned* inout) {
   if ((code == kQueryDayOfWeek || code == kQueryDayOfMonth) && decompose(*value, &f)) {
     answer = code == kQueryDayOfWeek ? record_weekday(f) : f.day;
   }
-  *reinterpret_cast<int*>(argument) = answer;
+  std::memcpy(argument, &answer, sizeof answer);  // the int in the slot's first bytes
   return static_cast<int>(code);
 }
 

@@ -17,14 +17,9 @@ void* g_module_instance = nullptr;
 void* module_instance() { return g_module_instance; }
 
 bool attach_process() {
-  // 1. The load notice goes to the diagnostic log only when one is open, and
-  //    none is at load time: nothing is written.
-  // 2. Remember the module handle.
+  // No diagnostic log is open at load, the date formatter keeps no tables and
+  // there is no window class to register: the module handle is what is kept.
   g_module_instance = platform::library_base_address();
-  // 3. Priming the date formatter's tables and 4. choosing the resource
-  //    language have nothing to do before those subsystems hold state.
-  // 5. Registering the script-window class is user-interface work: on POSIX
-  //    there is no window class, so it succeeds without doing anything.
   return true;
 }
 

@@ -13,9 +13,9 @@ namespace kiln::unicode {
 
 namespace {
 
-// The detector's parameters, built afresh for every buffer.
+// The detector's parameters, built afresh for every buffer. A NUL byte
+// always fails the UTF-8 check (see kContinuations).
 struct DetectorParameters {
-  bool reject_nul_in_utf8 = true;
   int high_ratio_percent = 70;
   int low_ratio_percent = 10;
   bool guess = true;

@@ -1,0 +1,31 @@
+// Byte swaps and the 128-bit product, checked against values worked out by
+// hand (the product's halves also against the identity (2^64 - 1)^2).
+#include "platform/bits.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+
+using kiln::platform::multiply64;
+
+TEST(PlatformBits, SwapsScansAndProducts) {
+  EXPECT_EQ(kiln::platform::byteswap64(0x0102030405060708ull), 0x0807060504030201ull);
+  EXPECT_EQ(kiln::platform::lowest_set_bit(0), 64u);
+  EXPECT_EQ(kiln::platform::lowest_set_bit(0x8000000000000000ull), 63u);
+  EXPECT_EQ(kiln::platform::lowest_set_bit(0x0000000000008080ull), 7u);
+  struct Case {
+    std::uint64_t a, b, high, low;
+  } cases[] = {
+      {0, ~0ull, 0, 0},
+      {~0ull, ~0ull, 0xFFFFFFFFFFFFFFFEull, 1},
+      {0x100000000ull, 0x100000000ull, 1, 0},
+      {0xFFFFFFFFull, 0xFFFFFFFFull, 0, 0xFFFFFFFE00000001ull},
+      {0x123456789ABCDEF0ull, 10, 0, 0xB60B60B60B60B560ull},
+      {0x123456789ABCDEF0ull, 0x10, 1, 0x23456789ABCDEF00ull},
+  };
+  for (const Case& c : cases) {
+    const auto product = multiply64(c.a, c.b);
+    EXPECT_EQ(product.high, c.high) << c.a << " x " << c.b;
+    EXPECT_EQ(product.low, c.low) << c.a << " x " << c.b;
+  }
+}
