@@ -1,9 +1,10 @@
 // Date systems: which day is day zero of a date value. The active system's
-// offset is one process-wide double, set up on first use and changed only by
+// offset is one process-wide double, changed only by
 // DateTime_DateSys(1, code).
 #include "datetime/date_system.h"
 
 #include "datetime/calendar.h"
+#include "frame/relaxed.h"
 #include "platform/clock.h"
 #include "unicode/ascii_case.h"
 
@@ -24,10 +25,7 @@ constexpr int kLastYearCode = 2099;
 constexpr double kDefaultOffset = 2415018.0;
 constexpr double kSixPm = 0.75;
 
-double& active_offset_storage() {
-  static double offset = kDefaultOffset;  // initialised once, thread-safely
-  return offset;
-}
+frame::Relaxed<double> g_active_offset{kDefaultOffset};
 
 // Today 18:00 local time is 1.0: days since 18:00 of the day before.
 double six_pm_offset() {
@@ -46,7 +44,7 @@ double offset_of_code(int code) {
     default: break;
   }
   if (is_year_code(code)) return -static_cast<double>(serial_day(code, 1, 1));
-  return active_offset_storage();
+  return g_active_offset.load();
 }
 
 int code_of_name(const char* name) {
@@ -62,7 +60,7 @@ int code_of_name(const char* name) {
 
 }  // namespace
 
-double active_offset() { return active_offset_storage(); }
+double active_offset() { return g_active_offset.load(); }
 
 }  // namespace kiln::datetime
 
@@ -70,7 +68,11 @@ using namespace kiln::datetime;
 
 double DateTime_DateSys(int mode, int code) {
   if (mode == 0 && code >= 0) return offset_of_code(code);
-  if (mode == 1) return active_offset_storage() = offset_of_code(code);
+  if (mode == 1) {
+    const double offset = offset_of_code(code);
+    g_active_offset.store(offset);
+    return offset;
+  }
   return active_offset();
 }
 

@@ -5,21 +5,22 @@
 // is freed.
 #include "frame/library_load.h"
 
+#include "frame/relaxed.h"
 #include "platform/library_load.h"
 
 namespace kiln::frame {
 namespace {
 
-void* g_module_instance = nullptr;
+kiln::frame::Relaxed<void*> g_module_instance{nullptr};
 
 }  // namespace
 
-void* module_instance() { return g_module_instance; }
+void* module_instance() { return g_module_instance.load(); }
 
 bool attach_process() {
   // No diagnostic log is open at load, the date formatter keeps no tables and
   // there is no window class to register: the module handle is what is kept.
-  g_module_instance = platform::library_base_address();
+  g_module_instance.store(platform::library_base_address());
   return true;
 }
 

@@ -1,6 +1,7 @@
 // KILNUTIL_strchr (exposed and plain modes) and KILNUTIL_strchr_reverse.
 #include "text/strchr.h"
 
+#include "frame/relaxed.h"
 #include "frame/settings.h"
 #include "text/chars.h"
 
@@ -13,7 +14,8 @@ namespace kiln::text {
 
 namespace {
 
-PairNesting g_strchr_nesting;
+frame::Relaxed<int> g_strchr_kind{0};
+frame::Relaxed<int> g_strchr_depth{0};
 
 // c and its case-converted form (c itself when it has none).
 struct Target {
@@ -40,7 +42,17 @@ unsigned other_case(unsigned c) {
 
 }  // namespace
 
-PairNesting& strchr_nesting() { return g_strchr_nesting; }
+PairNesting strchr_nesting() {
+  PairNesting nesting;
+  nesting.kind = g_strchr_kind.load();
+  nesting.depth = g_strchr_depth.load();
+  return nesting;
+}
+
+void remember_strchr_nesting(const PairNesting& nesting) {
+  g_strchr_kind.store(nesting.kind);
+  g_strchr_depth.store(nesting.depth);
+}
 
 bool walks_bytes() {
   const unsigned cp = frame::effective_code_page(-1);
@@ -55,11 +67,12 @@ char* KILNUTIL_strchr(const char* text, int c, unsigned int mode) {
   if (text == nullptr || c <= 0) return nullptr;
   const auto ch = static_cast<unsigned>(c);
   const Target target{ch, (mode & kStrCharEitherCase) ? other_case(ch) : ch};
-  PairNesting& nesting = strchr_nesting();
+  PairNesting nesting = strchr_nesting();
   const char* hit =
       walks_bytes()
           ? find_str_char(text, target, mode, [](const char*& p) { return read_byte(p); }, nesting)
           : find_str_char(text, target, mode, [](const char*& p) { return read_char(p); }, nesting);
+  remember_strchr_nesting(nesting);
   return mutable_pos(hit);
 }
 

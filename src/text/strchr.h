@@ -94,9 +94,11 @@ const Ch* find_str_char(const Ch* text, const Match& matches, unsigned mode, Rea
   return last;
 }
 
-// The process-wide nesting of KILNUTIL_strchr, reset by every call to it and
-// by KILNUTIL_next_token, which reads tokens with it.
-PairNesting& strchr_nesting();
+// The process-wide nesting of KILNUTIL_strchr, reset by every exposed search
+// and by KILNUTIL_next_token, which reads tokens with it. A call works on a
+// copy and stores the state it ended with.
+PairNesting strchr_nesting();
+void remember_strchr_nesting(const PairNesting& nesting);
 
 // Whether narrow text is walked byte by byte: the string-process code page
 // (or the ANSI code page when none is set) is a Western one, 1200 to 1254.

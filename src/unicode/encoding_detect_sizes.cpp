@@ -1,5 +1,6 @@
 // How many leading bytes of a file the detector examines, by the file's
 // extension: three process-wide counts with their accessor.
+#include "frame/relaxed.h"
 #include "unicode/encoding_detect.h"
 
 #include <kilnutil/unicode.h>
@@ -11,7 +12,7 @@ namespace {
 
 enum BufferSizeKind { kKindCsv = 0, kKindTxt = 1, kKindOther = 2, kKindCount = 3 };
 
-uint64_t g_detect_buffer_sizes[kKindCount] = {51200, 51200, 51200};
+kiln::frame::Relaxed<uint64_t> g_detect_buffer_sizes[kKindCount] = {51200, 51200, 51200};
 
 // double to unsigned 64-bit as the host's runtime converts it: values of 2^63
 // and more lose 2^63 and get the top bit; what no integer holds (NaN, 2^64 and
@@ -52,9 +53,9 @@ int KILNUTIL_DetectEncoding_GetSet_BufferSize(int set, double* value, int kind) 
   if (set != 0 && *value < 0) return -1;
   if (kind < 0 || kind >= kKindCount) return -1;
   if (set != 0) {
-    g_detect_buffer_sizes[kind] = to_unsigned_64(*value);
+    g_detect_buffer_sizes[kind].store(to_unsigned_64(*value));
   } else {
-    *value = static_cast<double>(g_detect_buffer_sizes[kind]);
+    *value = static_cast<double>(g_detect_buffer_sizes[kind].load());
   }
   return 0;
 }
