@@ -88,6 +88,9 @@ TEST(Base64, DecodingSkipsOthersAndKeepsLeftovers) {
   const std::pair<std::string, std::string> cases[] = {
       {"Zm9v\r\nYmFy", "foobar"}, {"Z m9v-Ym*Fy==\n", "foobar"}, {"=Zm=9vYm=Fy", "foobar"}, {"\n\n\n", ""},
       {"Zm9vY", "foo"}, {"Zm9vYm", "foob"}, {"Zm9vYmE", "fooba"},
+      // Two saved fuzz findings (fuzz/corpus/base64_decode/crash-*): two
+      // whole groups with high bits set in every byte.
+      {"nONNNNnn", "\x9C\xE3\x4D\x34\xD9\xE7"}, {"yy++++++", "\xCB\x2F\xBE\xFB\xEF\xBE"},
   };
   for (const auto& [text, plain] : cases) EXPECT_EQ(decode(text), plain) << text;
 }
