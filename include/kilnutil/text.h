@@ -38,6 +38,12 @@ KILNUTIL_API int is_end_quote(int c);
  * Bit 0: plain search; with bit 1 the last occurrence. 0x4: plain, after the
  * run of c that starts the text. 0x10: plain, within the text trimmed of
  * white space at both ends. 0x20: c's other case matches too. */
+#define KILNUTIL_STRCHR_EXPOSED 0x0u
+#define KILNUTIL_STRCHR_PLAIN 0x1u
+#define KILNUTIL_STRCHR_BACKWARD 0x2u
+#define KILNUTIL_STRCHR_AFTER_LEADING_RUN 0x4u
+#define KILNUTIL_STRCHR_TRIMMED 0x10u
+#define KILNUTIL_STRCHR_EITHER_CASE 0x20u
 KILNUTIL_API char* KILNUTIL_strchr(const char* text, int c, unsigned int mode);
 /* Last c at or before from (from null: anywhere); plain. */
 KILNUTIL_API char* KILNUTIL_strchr_reverse(const char* text, int c, const char* from);
@@ -53,6 +59,18 @@ KILNUTIL_API char* KILNUTIL_strchr_reverse(const char* text, int c, const char* 
  * or the first quoted section or number the last search skipped). target -1:
  * *status = the escape switch, then escapes are off; target -2: the escape
  * switch = *status (which the call has set to 0 first). */
+#define KILNUTIL_EXPOSED_ANY_SPACE 0                /* target */
+#define KILNUTIL_EXPOSED_SAVE_AND_DISABLE_ESCAPES (-1) /* target of a control call */
+#define KILNUTIL_EXPOSED_RESTORE_ESCAPES (-2)       /* target of a control call */
+#define KILNUTIL_EXPOSED_KEEP_NUMBERS 0x40u
+#define KILNUTIL_EXPOSED_CASE_BLIND 0x80u
+#define KILNUTIL_EXPOSED_SINGLE_QUOTE_FIRST_ONLY 0x100u
+#define KILNUTIL_EXPOSED_NO_PARENTHESES 0x1000000u
+#define KILNUTIL_EXPOSED_NO_BRACES 0x2000000u
+#define KILNUTIL_EXPOSED_NO_SQUARE_BRACKETS 0x4000000u
+#define KILNUTIL_EXPOSED_NO_ANGLE_BRACKETS 0x8000000u
+#define KILNUTIL_EXPOSED_NO_SINGLE_QUOTE 0x10000000u
+#define KILNUTIL_EXPOSED_NO_DOUBLE_QUOTE 0x20000000u
 KILNUTIL_API char* KILNUTIL_exposed_char_pos_ex_loc_ex(const char* text, int target, unsigned int flags, int* status,
                                                        int loc, const char* end);
 /* The last exposed target (or the hit at which a quoted section was left open). */
@@ -188,6 +206,10 @@ KILNUTIL_API KILN_WCHAR* KILNUTIL_NextTokenW(KILN_WCHAR* dest, const KILN_WCHAR*
  * the trimmed tokens when list is given. Separators + 1, or the separators
  * found when the limit was reached. The narrow form is
  * KILNUTIL_separate_str_to_token_list. */
+#define KILNUTIL_TOKENS_SEP_COMMA 0          /* sep */
+#define KILNUTIL_TOKENS_SEP_WHITE_SPACE (-1) /* sep */
+#define KILNUTIL_TOKENS_NO_LIMIT (-1)        /* max; the single quote is ordinary */
+#define KILNUTIL_TOKENS_LIMIT_60000 60000    /* max; the single quote is ordinary */
 KILNUTIL_API int KILNUTIL_SeparateStrToTokensA(char* text, char** list, int sep, int max);
 KILNUTIL_API int KILNUTIL_SeparateStrToTokensW(KILN_WCHAR* text, KILN_WCHAR** list, int sep, int max);
 /* Tokens in the first line (the text is restored). */

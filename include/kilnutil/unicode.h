@@ -191,7 +191,17 @@ KILNUTIL_API void KILNUTIL_UNICODE_open_text_file_to_UTF8_END(FILE* stream, Text
 
 /* ---- Whole-file rewrites: the new content goes to a temporary file in the
  * same folder, which replaces the original only when completely written; on
- * any failure the original is left as it was. */
+ * any failure the original is left as it was. Failure codes: */
+#define KILNUTIL_REWRITE_SHORT_WRITE (-321)
+#define KILNUTIL_REWRITE_CANT_WRITE (-322)
+#define KILNUTIL_REWRITE_NOT_UTF16_CONVERTIBLE (-323)
+#define KILNUTIL_REWRITE_NO_MARK (-324)
+#define KILNUTIL_REWRITE_SHORT_READ (-325)
+#define KILNUTIL_REWRITE_NO_MEMORY_FOR_TEXT (-326)
+#define KILNUTIL_REWRITE_NO_MEMORY_FOR_FILE (-327)
+#define KILNUTIL_REWRITE_EMPTY_FILE (-328)
+#define KILNUTIL_REWRITE_CANT_OPEN (-329)
+#define KILNUTIL_REWRITE_CODE_PAGE_FAILS (-330)
 /* 2 mark added; 1 ASCII only with only_if_non_ascii set, or the file can't be
  * rewritten; 0 mark present; -321 short write; -325 short read; -327 no
  * memory; -328 empty; -329 can't be opened. */

@@ -22,21 +22,21 @@ constexpr double kWholeTolerance = 1e-5;
 constexpr double kLargestStep = 1e9;
 
 enum Operation : unsigned short {
-  kAdd = 0,
-  kCalendarStep = 1,
-  kDivideIncrement = 2,
-  kFractionalStep = 3,
-  kSnapIncrement = 4,
-  kQuery = 5,
-  kMoveToWeekday = 6,
-  kSetFromText = 7,
-  kMoveToDayRoundingAt17 = 9,
-  kMoveToFirstRoundingAt15 = 10,
-  kIsLeapDay = 11,
+  kAdd = KILNUTIL_DATEINC_ADD,
+  kCalendarStep = KILNUTIL_DATEINC_CALENDAR_STEP,
+  kDivideIncrement = KILNUTIL_DATEINC_DIVIDE_INCREMENT,
+  kFractionalStep = KILNUTIL_DATEINC_FRACTIONAL_STEP,
+  kSnapIncrement = KILNUTIL_DATEINC_SNAP_INCREMENT,
+  kQuery = KILNUTIL_DATEINC_QUERY,
+  kMoveToWeekday = KILNUTIL_DATEINC_MOVE_TO_WEEKDAY,
+  kSetFromText = KILNUTIL_DATEINC_SET_FROM_TEXT,
+  kMoveToDayRoundingAt17 = KILNUTIL_DATEINC_MOVE_TO_DAY_ROUNDING_AT_17,
+  kMoveToFirstRoundingAt15 = KILNUTIL_DATEINC_MOVE_TO_FIRST_ROUNDING_AT_15,
+  kIsLeapDay = KILNUTIL_DATEINC_IS_LEAP_DAY,
 };
 
-constexpr unsigned kQueryDayOfWeek = 16;
-constexpr unsigned kQueryDayOfMonth = 32;
+constexpr unsigned kQueryDayOfWeek = KILNUTIL_DATEINC_QUERY_DAY_OF_WEEK;
+constexpr unsigned kQueryDayOfMonth = KILNUTIL_DATEINC_QUERY_DAY_OF_MONTH;
 
 long long floor_div(long long a, long long b) { return a / b - ((a % b != 0) && ((a < 0) != (b < 0))); }
 

@@ -15,8 +15,8 @@ namespace {
 kiln::frame::Relaxed<int> g_escape_switch{0};                    // 0: backslashes escape; 1: they are ordinary
 kiln::frame::Relaxed<const char*> g_last_scan_position{nullptr};  // see last_scan_position()
 
-constexpr int kSaveAndDisableEscapes = -1;
-constexpr int kRestoreEscapes = -2;
+constexpr int kSaveAndDisableEscapes = KILNUTIL_EXPOSED_SAVE_AND_DISABLE_ESCAPES;
+constexpr int kRestoreEscapes = KILNUTIL_EXPOSED_RESTORE_ESCAPES;
 
 const char* control_call(int target, int* status) {
   if (target == kSaveAndDisableEscapes) {

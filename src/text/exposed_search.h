@@ -8,19 +8,21 @@
 #include "text/chars.h"
 #include "text/letter_case.h"
 
+#include <kilnutil/text.h>
+
 #include <cstdint>
 #include <initializer_list>
 
 namespace kiln::text {
 
 // Search flags.
-inline constexpr unsigned kKeepNumbers = 0x40;
-inline constexpr unsigned kCaseBlind = 0x80;
-inline constexpr unsigned kSingleQuoteFirstOnly = 0x100;
-inline constexpr unsigned kNoParentheses = 0x1000000;
-inline constexpr unsigned kNoAngleBrackets = 0x8000000;
-inline constexpr unsigned kNoSingleQuote = 0x10000000;
-inline constexpr unsigned kNoDoubleQuote = 0x20000000;
+inline constexpr unsigned kKeepNumbers = KILNUTIL_EXPOSED_KEEP_NUMBERS;
+inline constexpr unsigned kCaseBlind = KILNUTIL_EXPOSED_CASE_BLIND;
+inline constexpr unsigned kSingleQuoteFirstOnly = KILNUTIL_EXPOSED_SINGLE_QUOTE_FIRST_ONLY;
+inline constexpr unsigned kNoParentheses = KILNUTIL_EXPOSED_NO_PARENTHESES;
+inline constexpr unsigned kNoAngleBrackets = KILNUTIL_EXPOSED_NO_ANGLE_BRACKETS;
+inline constexpr unsigned kNoSingleQuote = KILNUTIL_EXPOSED_NO_SINGLE_QUOTE;
+inline constexpr unsigned kNoDoubleQuote = KILNUTIL_EXPOSED_NO_DOUBLE_QUOTE;
 
 // What one search treats as structure, from its flags and loc argument.
 struct ScanRules {

@@ -3,6 +3,8 @@
 
 #include "text/char_class.h"
 
+#include <kilnutil/text.h>
+
 namespace kiln::text {
 
 // One pair kind at a time (the begin_quote_class kinds: "(" ")", "{" "}",
@@ -32,11 +34,11 @@ struct PairNesting {
 
 // The modes of the character search shared by KILNUTIL_strchr and the
 // narrow/wide StrChar template.
-inline constexpr unsigned kStrCharPlain = 0x1;           // no pairs or quotes
-inline constexpr unsigned kStrCharBackward = 0x2;        // plain: the last hit
-inline constexpr unsigned kStrCharSkipLeadingRun = 0x4;  // plain: from behind the run of c that opens the text
-inline constexpr unsigned kStrCharTrimmed = 0x10;        // plain: white space at both ends left out
-inline constexpr unsigned kStrCharEitherCase = 0x20;     // c matches in either case
+inline constexpr unsigned kStrCharPlain = KILNUTIL_STRCHR_PLAIN;                     // no pairs or quotes
+inline constexpr unsigned kStrCharBackward = KILNUTIL_STRCHR_BACKWARD;               // plain: the last hit
+inline constexpr unsigned kStrCharSkipLeadingRun = KILNUTIL_STRCHR_AFTER_LEADING_RUN;  // plain: behind the run of c
+inline constexpr unsigned kStrCharTrimmed = KILNUTIL_STRCHR_TRIMMED;  // plain: white space at both ends left out
+inline constexpr unsigned kStrCharEitherCase = KILNUTIL_STRCHR_EITHER_CASE;  // c matches in either case
 
 // The search itself, over any character width: `read` reads one character
 // and moves past it, `matches` tests a character, `nesting` holds the pair
