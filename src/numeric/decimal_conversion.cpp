@@ -152,9 +152,7 @@ TextWords load_short_text(const char* p, std::size_t length) {
 
 // Index of the first byte equal to c in a word (8 when there is none).
 unsigned first_byte_equal(std::uint64_t word, char c) {
-  const std::uint64_t x = word ^ (0x0101010101010101ull * static_cast<unsigned char>(c));
-  const std::uint64_t zero_bytes = (x - 0x0101010101010101ull) & ~x & 0x8080808080808080ull;
-  return platform::lowest_set_bit(zero_bytes) / 8;
+  return platform::first_byte_equal(word, static_cast<unsigned char>(c));
 }
 
 // Texts of 2 to 16 bytes with at most eight digits on each side of the

@@ -5,6 +5,7 @@
 
 #include <bit>
 #include <cstdint>
+#include <cstring>
 
 namespace kiln::platform {
 
@@ -31,6 +32,33 @@ inline std::uint64_t little_endian64(std::uint64_t word) {
 
 // Index of the lowest set bit; 64 for zero.
 inline unsigned lowest_set_bit(std::uint64_t word) { return static_cast<unsigned>(std::countr_zero(word)); }
+
+// ---- Eight bytes at a time. A word holds eight bytes of text in memory
+// order; the tests look at all eight at once.
+inline constexpr std::uint64_t kEachByte = 0x0101010101010101ull;
+inline constexpr std::uint64_t kHighBits = 0x8080808080808080ull;
+
+// The eight bytes at p (no alignment needed).
+inline std::uint64_t load_word(const void* p) {
+  std::uint64_t word;
+  std::memcpy(&word, p, sizeof word);
+  return word;
+}
+
+// Whether one of the bytes is 0x80 or above.
+inline bool has_high_byte(std::uint64_t word) { return (word & kHighBits) != 0; }
+
+// Non-zero when one of the bytes is 0 or 0x80 and above. The subtraction
+// borrows into a byte's top bit only for a zero byte (or after a lower zero
+// byte), so the test is exact for the word as a whole.
+inline std::uint64_t zero_or_high_byte(std::uint64_t word) { return ((word - kEachByte) | word) & kHighBits; }
+
+// Index (in memory order, on a little-endian machine) of the first byte equal
+// to `byte`; 8 when there is none.
+inline unsigned first_byte_equal(std::uint64_t word, unsigned char byte) {
+  const std::uint64_t x = word ^ (kEachByte * byte);
+  return lowest_set_bit((x - kEachByte) & ~x & kHighBits) / 8;
+}
 
 struct Product128 {
   std::uint64_t high;

@@ -4,11 +4,10 @@
 #include "frame/relaxed.h"
 #include "frame/settings.h"
 #include "text/chars.h"
+#include "text/letter_case.h"
 
 #include <kilnutil/text.h>
-#include <kilnutil/unicode.h>
 
-#include <cstdint>
 
 namespace kiln::text {
 
@@ -23,22 +22,6 @@ struct Target {
   unsigned alt;
   bool operator()(unsigned ch) const { return ch == c || ch == alt; }
 };
-
-unsigned other_case(unsigned c) {
-  if (c < 128) {
-    if (c - 'a' < 26u) return c - 32;
-    if (c - 'A' < 26u) return c + 32;
-    return c;
-  }
-  if (c >= 0x10000) return c;
-  auto convert = [c](int to_lower) {
-    char* as_char = reinterpret_cast<char*>(static_cast<std::uintptr_t>(c));
-    return static_cast<unsigned>(
-        reinterpret_cast<std::uintptr_t>(KILNUTIL_UNICODE_UTF8_to_upper_or_to_lower(as_char, to_lower, 1, 0)) & 0xFFFF);
-  };
-  const unsigned upper = convert(0);
-  return upper != c ? upper : convert(1);
-}
 
 }  // namespace
 

@@ -1,6 +1,7 @@
 // How many leading bytes of a file the detector examines, by the file's
 // extension: three process-wide counts with their accessor.
 #include "frame/relaxed.h"
+#include "unicode/ascii_case.h"
 #include "unicode/encoding_detect.h"
 
 #include <kilnutil/unicode.h>
@@ -25,15 +26,6 @@ uint64_t to_unsigned_64(double value) {
   return kTopBit;
 }
 
-// Equality ignoring ASCII case (independent of the process locale).
-bool equals_ignoring_ascii_case(const char* a, const char* b) {
-  auto lower = [](unsigned char c) { return (c >= 'A' && c <= 'Z') ? c + ('a' - 'A') : c; };
-  for (; *a != '\0' && *b != '\0'; ++a, ++b) {
-    if (lower(static_cast<unsigned char>(*a)) != lower(static_cast<unsigned char>(*b))) return false;
-  }
-  return *a == *b;
-}
-
 int kind_of_path(const char* path) {
   if (path == nullptr) return kKindOther;
   const char* dot = std::strrchr(path, '.');
@@ -41,8 +33,8 @@ int kind_of_path(const char* path) {
   const char* backslash = std::strrchr(path, '\\');
   const char* slash = std::strrchr(path, '/');
   if ((backslash != nullptr && dot < backslash) || (slash != nullptr && dot < slash)) return kKindOther;
-  if (equals_ignoring_ascii_case(dot, ".CSV")) return kKindCsv;
-  if (equals_ignoring_ascii_case(dot, ".TXT")) return kKindTxt;
+  if (kiln::unicode::equal_ignoring_ascii_case(dot, ".CSV")) return kKindCsv;
+  if (kiln::unicode::equal_ignoring_ascii_case(dot, ".TXT")) return kKindTxt;
   return kKindOther;
 }
 

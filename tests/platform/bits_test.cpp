@@ -29,3 +29,23 @@ TEST(PlatformBits, SwapsScansAndProducts) {
     EXPECT_EQ(product.low, c.low) << c.a << " x " << c.b;
   }
 }
+
+// The eight-at-a-time byte tests against a byte-by-byte look at the same text.
+TEST(PlatformBits, WordByteTestsAgreeWithBytes) {
+  const char* texts[] = {"abcdefgh", "abc\0defg", "\x80" "bcdefgh", "abcdefg\xff", "\x01\x01\x01\x01\x01\x01\x01\x01",
+                         "a,b,c,d,", "\0\0\0\0\0\0\0\0", "abcdefg,"};
+  for (const char* text : texts) {
+    const std::uint64_t word = kiln::platform::load_word(text);
+    bool zero_or_high = false, high = false;
+    unsigned first_comma = 8;
+    for (unsigned i = 0; i < 8; ++i) {
+      const auto byte = static_cast<unsigned char>(text[i]);
+      zero_or_high = zero_or_high || byte == 0 || byte >= 0x80;
+      high = high || byte >= 0x80;
+      if (byte == ',' && first_comma == 8) first_comma = i;
+    }
+    EXPECT_EQ(kiln::platform::zero_or_high_byte(word) != 0, zero_or_high) << text;
+    EXPECT_EQ(kiln::platform::has_high_byte(word), high) << text;
+    EXPECT_EQ(kiln::platform::first_byte_equal(word, ','), first_comma) << text;
+  }
+}

@@ -218,3 +218,26 @@ TEST(TokenTemplates, HelperMembers) {
 }
 
 }  // namespace
+
+// Either case with the UTF-8 walk: c and its one case-converted form match
+// (the upper case, or the lower case when upper-casing leaves c as it is), so
+// the title-case U+01C5 finds U+01C4 but not U+01C6, in both searches.
+TEST(TokenTemplates, StrCharOtherCaseOfNonAsciiLetters) {
+  const unsigned previous = set_code_page_for_string_process(65001);
+  const struct {
+    const char* text;
+    int c;
+    int found;  // offset, -1 for none
+  } cases[] = {
+      {"a\xC7\x84", 0x1C5, 1}, {"a\xC7\x86", 0x1C5, -1}, {"a\xC7\x85", 0x1C6, -1}, {"a\xC7\x84", 0x1C6, 1},
+      {"a\xC7\x86", 0x1C4, 1}, {"\xC3\xA9", 0xC9, 0},    {"\xC3\x89", 0xE9, 0},    {"a\xC7\x85", 0x1C5, 1},
+  };
+  for (const auto& c : cases) {
+    for (const int mode : {0x20, 0x21, 0x23}) {
+      const char* hit = KILNUTIL_strchr(c.text, c.c, static_cast<unsigned>(mode));
+      EXPECT_EQ(hit == nullptr ? -1 : hit - c.text, c.found) << c.text << " " << c.c << " " << mode;
+      EXPECT_EQ(KILNUTIL_StrCharA(c.text, c.c, mode), hit) << c.text << " " << c.c << " " << mode;
+    }
+  }
+  set_code_page_for_string_process(previous);
+}
