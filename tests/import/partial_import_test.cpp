@@ -317,6 +317,14 @@ TEST(PartialQueries, PartsArrayThrowsOutOfRange) {
   array = copy;
   EXPECT_EQ(array[0].begin, 9);
   EXPECT_EQ(array.GetSize(), 1);
+  array.Reserve(16);  // capacity only
+  EXPECT_EQ(array.GetSize(), 1);
+  array.SetSize(3);  // new parts are value-initialised
+  EXPECT_EQ(array.GetSize(), 3);
+  EXPECT_EQ(array[2].begin, 0);
+  EXPECT_THROW(array[3], std::out_of_range);
+  array.RemoveAll();
+  EXPECT_EQ(array.GetSize(), 0);
 }
 
 // The wanted rows and columns among the first eight, as "rows/cols".

@@ -228,6 +228,47 @@ TEST(RangeBuilding, WholeRowColAndEndTests) {
   EXPECT_EQ(KILNUTIL_IsRangeNormalized(&normal), 1);
 }
 
+// Each builder from a range that holds something else, and each one-range
+// query over a few shapes (the pair that is not rebuilt keeps its values).
+TEST(RangeBuilding, BuildersAndShapeQueries) {
+  const struct {
+    const char* what;
+    void (*build)(CellRange*);
+    const char* expected;
+  } builders[] = {
+      {"whole", KILNUTIL_InitRangeWhole, "0,0,-1,-1"},
+      {"row 6", [](CellRange* r) { KILNUTIL_InitRangeRow(r, 6); }, "6,0,6,-1"},
+      {"column 6", [](CellRange* r) { KILNUTIL_InitRangeCol(r, 6); }, "0,6,-1,6"},
+      {"all rows", KILNUTIL_SetRangeAllRows, "0,2,-1,4"},
+      {"all columns", KILNUTIL_SetRangeAllColumns, "1,0,3,-1"},
+      {"all rows and columns", KILNUTIL_SetRangeAllRowsColumns, "0,0,-1,-1"},
+      {"transposed", KILNUTIL_TransposeRange, "2,1,4,3"},
+  };
+  for (const auto& b : builders) {
+    CellRange r{1, 2, 3, 4};
+    b.build(&r);
+    EXPECT_EQ(show(r), b.expected) << b.what;
+    b.build(nullptr);  // a null range is left alone
+  }
+  const struct {
+    CellRange r;
+    int cols_to_end, single_cell;
+  } shapes[] = {
+      {{1, 1, -1, -1}, 1, 0}, {{0, 0, -1, -1}, 0, 0}, {{2, 3, 2, 3}, 0, 1},    {{2, 3, 2, 4}, 0, 0},
+      {{2, 3, 5, 3}, 0, 0},   {{0, 2, 0, -1}, 1, 0},  {{-1, -1, -1, -1}, 0, 1},
+  };
+  for (const auto& c : shapes) {
+    EXPECT_EQ(KILNUTIL_IsRangeColsToEnd(&c.r), c.cols_to_end) << show(c.r);
+    EXPECT_EQ(KILNUTIL_IsRangeSingleCell(&c.r), c.single_cell) << show(c.r);
+    CellRange copy = c.r;
+    EXPECT_EQ(KILNUTIL_AreEqualRanges(&c.r, &copy), 1);
+    copy.c2 += 1;
+    EXPECT_EQ(KILNUTIL_AreEqualRanges(&c.r, &copy), 0);
+  }
+  EXPECT_EQ(KILNUTIL_IsRangeSingleCell(nullptr), 0);
+  EXPECT_EQ(KILNUTIL_AreEqualRanges(nullptr, nullptr), 0);
+}
+
 TEST(RangeBuilding, SelectionConversionSkipsWholeDimensions) {
   const CellRange r{2, 1, 5, 3};
   using Sel = std::vector<int>;

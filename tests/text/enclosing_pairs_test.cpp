@@ -26,6 +26,26 @@ TEST(StrInside, Cases) {
     int kind = 99;
     EXPECT_STREQ(KILNUTIL_str_inside_ex(t.get(), c.options, &kind), c.inside) << c.text;
     EXPECT_EQ(kind, c.kind) << c.text;
+    Text again(c.text);
+    EXPECT_STREQ(KILNUTIL_str_inside(again.get(), c.options), c.inside) << c.text;  // the kind left out
+  }
+}
+
+// The two short forms are the general one with options 0 and 0x1001.
+TEST(RemoveQuotes, ShortFormsAreTheGeneralOne) {
+  using Strip = char* (*)(char*, int*);
+  const struct {
+    Strip short_form;
+    unsigned options;
+  } forms[] = {{KILNUTIL_text_inside_remove_quotes, 0}, {KILNUTIL_text_inside_remove_quotes_even_mismatch, 0x1001}};
+  for (const char* text : {"  ( \"[x]\" ) ", "abc", "((a\")", "{(a)}b", "(a", "\"\"", "[ (x) ]"}) {
+    for (const auto& f : forms) {
+      Text a(text), b(text);
+      int removed_a = 7, removed_b = 9;
+      EXPECT_STREQ(KILNUTIL_text_inside_remove_quotes_ex(a.get(), &removed_a, f.options), f.short_form(b.get(), &removed_b))
+          << text << " " << f.options;
+      EXPECT_EQ(removed_a, removed_b) << text << " " << f.options;
+    }
   }
 }
 

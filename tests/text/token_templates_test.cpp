@@ -88,6 +88,39 @@ TEST(TokenTemplates, NarrowAndWideAgree) {
   }
 }
 
+// The flat A and W exports and the template helpers agree on the same text,
+// in character terms.
+TEST(TokenTemplates, FlatNarrowAndWideExportsAgree) {
+  for (const char* sample : {"  a, b ;c  ", "x\ty\n1\t2\t3\n", "(a,b),\"c,d\",e", "\xC3\xA9,b\n", ""}) {
+    const Text<char> a = sample;
+    const Text<char16_t> w = wide(a);
+    {
+      Text<char> ca = a, ta = a;
+      Text<char16_t> cw = w, tw = w;
+      EXPECT_EQ(narrow(KILNUTIL_TrimRightA(ca.data())), narrow(KILNUTIL_TrimRightW(cw.data()))) << sample;
+      EXPECT_EQ(narrow(KILNUTILT_TrimRight(ta.data())), narrow(KILNUTILT_TrimRight(tw.data()))) << sample;
+      EXPECT_EQ(narrow(KILNUTIL_TrimBothA(ca.data())), narrow(KILNUTIL_TrimBothW(cw.data()))) << sample;
+      EXPECT_EQ(narrow(KILNUTILT_TrimLeft(ta.data())), narrow(KILNUTILT_TrimLeft(tw.data()))) << sample;
+    }
+    for (const int target : std::initializer_list<int>{0, ',', '"'}) {
+      int status_a = 5, status_w = 6;
+      EXPECT_EQ(index_of(a.c_str(), KILNUTIL_ExposedCharPosA(a.c_str(), target, 0, &status_a)),
+                index_of(w.c_str(), KILNUTIL_ExposedCharPosW(w.c_str(), target, 0, &status_w)))
+          << sample << " " << target;
+      EXPECT_EQ(status_a, status_w);
+      EXPECT_EQ(index_of(a.c_str(), KILNUTIL_StrCharA(a.c_str(), target, 1)),
+                index_of(w.c_str(), KILNUTIL_StrCharW(w.c_str(), target, 1)))
+          << sample << " " << target;
+    }
+    Text<char> ta = a;
+    Text<char16_t> tw = w;
+    EXPECT_EQ(KILNUTIL_FirstLineTokensA(ta.data(), ','), KILNUTIL_FirstLineTokensW(tw.data(), ',')) << sample;
+    EXPECT_EQ(KILNUTIL_TestWordsInLineA(a.c_str(), 3), KILNUTIL_TestWordsInLineW(w.c_str(), 3)) << sample;
+    EXPECT_EQ(KILNUTILT::StrLen(a.c_str()), static_cast<int>(a.size())) << sample;  // units, not characters
+    EXPECT_EQ(KILNUTILT::StrLen(w.c_str()), static_cast<int>(w.size())) << sample;
+  }
+}
+
 // The narrow character search answers as the script scanners' search does.
 TEST(TokenTemplates, StrCharMatchesScannerSearch) {
   const char* corpus[] = {"(a,b),c", "\"x,y\",z", ",,a,b, ", "  ;a;b;  ", "[{a,b}],\xC3\xA9,c", "Abc,aBC", ""};
