@@ -1,7 +1,7 @@
 // Parts of a partial-import request: matching and selection clauses.
 #include "import/partial_part.h"
 
-#include "kilnutil/numeric.h"
+#include <kilnutil/numeric.h>
 
 #include <algorithm>
 #include <cstdint>

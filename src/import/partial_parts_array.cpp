@@ -1,5 +1,5 @@
 // The growable array of parts behind ImportFilesPartialParts.
-#include "kilnutil/import.h"
+#include <kilnutil/import.h>
 
 #include <vector>
 

@@ -42,11 +42,7 @@ bool walks_bytes() {
   return cp >= 1200 && cp <= 1254;
 }
 
-}  // namespace kiln::text
-
-using namespace kiln::text;
-
-char* KILNUTIL_strchr(const char* text, int c, unsigned int mode) {
+char* search_char(const char* text, int c, unsigned mode) {
   if (text == nullptr || c <= 0) return nullptr;
   const auto ch = static_cast<unsigned>(c);
   const Target target{ch, (mode & kStrCharEitherCase) ? other_case(ch) : ch};
@@ -59,7 +55,7 @@ char* KILNUTIL_strchr(const char* text, int c, unsigned int mode) {
   return mutable_pos(hit);
 }
 
-char* KILNUTIL_strchr_reverse(const char* text, int c, const char* from) {
+char* search_char_reverse(const char* text, int c, const char* from) {
   if (text == nullptr || c <= 0) return nullptr;
   const auto ch = static_cast<unsigned>(c);
   const bool bytes = walks_bytes();
@@ -72,3 +68,15 @@ char* KILNUTIL_strchr_reverse(const char* text, int c, const char* from) {
   }
   return mutable_pos(last);
 }
+
+}  // namespace kiln::text
+
+extern "C" {
+
+char* KILNUTIL_strchr(const char* text, int c, unsigned int mode) { return kiln::text::search_char(text, c, mode); }
+
+char* KILNUTIL_strchr_reverse(const char* text, int c, const char* from) {
+  return kiln::text::search_char_reverse(text, c, from);
+}
+
+}  // extern "C"

@@ -102,6 +102,11 @@ const Ch* find_str_char(const Ch* text, const Match& matches, unsigned mode, Rea
 PairNesting strchr_nesting();
 void remember_strchr_nesting(const PairNesting& nesting);
 
+// KILNUTIL_strchr and KILNUTIL_strchr_reverse: null for a null text or a c of
+// 0 or below.
+char* search_char(const char* text, int c, unsigned mode);
+char* search_char_reverse(const char* text, int c, const char* from);
+
 // Whether narrow text is walked byte by byte: the string-process code page
 // (or the ANSI code page when none is set) is a Western one, 1200 to 1254.
 bool walks_bytes();

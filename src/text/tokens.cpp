@@ -128,7 +128,7 @@ char* KILNUTIL_next_token_sep(char* dest, const char* text, const char* separato
   if (dest == nullptr || text == nullptr) return nullptr;
   for (const char* s = separators != nullptr ? separators : ""; *s != '\0';) {
     const auto separator = static_cast<int>(read_char(s));
-    if (const char* hit = KILNUTIL_strchr(text, separator, 1)) {
+    if (const char* hit = kiln::text::search_char(text, separator, 1)) {
       copy_range(dest, text, hit);
       return mutable_pos(after_char(hit));
     }
