@@ -59,9 +59,9 @@ KILNUTIL_API char* KILNUTIL_strchr_reverse(const char* text, int c, const char* 
  * or the first quoted section or number the last search skipped). target -1:
  * *status = the escape switch, then escapes are off; target -2: the escape
  * switch = *status (which the call has set to 0 first). */
-#define KILNUTIL_EXPOSED_ANY_SPACE 0                /* target */
+#define KILNUTIL_EXPOSED_ANY_SPACE 0                   /* target */
 #define KILNUTIL_EXPOSED_SAVE_AND_DISABLE_ESCAPES (-1) /* target of a control call */
-#define KILNUTIL_EXPOSED_RESTORE_ESCAPES (-2)       /* target of a control call */
+#define KILNUTIL_EXPOSED_RESTORE_ESCAPES (-2)          /* target of a control call */
 #define KILNUTIL_EXPOSED_KEEP_NUMBERS 0x40u
 #define KILNUTIL_EXPOSED_CASE_BLIND 0x80u
 #define KILNUTIL_EXPOSED_SINGLE_QUOTE_FIRST_ONLY 0x100u
@@ -117,8 +117,8 @@ KILNUTIL_API char* KILNUTIL_text_inside_remove_quotes_even_mismatch(char* text, 
 /* ---- Quoted term: copies the next sep-separated term into dest (at most
  * size - 1 bytes; size -1: the text's length), honouring quote (doubled
  * quotes are kept). Returns the position behind the next sep, or null. */
-KILNUTIL_API char* KILNUTIL_next_quoted_term_ex_ex(char* dest, const char* text, int sep, int quote,
-                                                   int drop_quotes, int size);
+KILNUTIL_API char* KILNUTIL_next_quoted_term_ex_ex(char* dest, const char* text, int sep, int quote, int drop_quotes,
+                                                   int size);
 KILNUTIL_API char* KILNUTIL_next_quoted_term(char* dest, const char* text, int sep);
 
 /* ---- Tokens and words. Destination buffers must hold the text's length + 1. */
@@ -172,7 +172,6 @@ KILNUTIL_API int KILNUTIL_get_token_count_ex(const char* text, int sep, int max,
 KILNUTIL_API int KILNUTIL_token_count_no_chk_inside(const char* text, int sep);
 
 KILNUTIL_END_C
-
 
 /* ---- Narrow (UTF-8, A) and wide (UTF-16, W) token functions of text import.
  * Each forwards to the KILNUTILT_ template of the same job (below). */
@@ -232,26 +231,39 @@ KILNUTIL_END_C
 #ifdef __cplusplus
 /* The templates behind the A and W functions, exported for char (UTF-8) and
  * KILN_WCHAR (UTF-16) text. */
-template <class Ch> KILNUTIL_API Ch* KILNUTILT_TrimLeft(Ch* text);
-template <class Ch> KILNUTIL_API Ch* KILNUTILT_TrimRight(Ch* text);
-template <class Ch> KILNUTIL_API Ch* KILNUTILT_TrimBoth(Ch* text);
-template <class Ch> KILNUTIL_API Ch* KILNUTILT_ExposedCharPos(const Ch* text, int target, unsigned int flags, int* status);
-template <class Ch> KILNUTIL_API Ch* KILNUTILT_StrChar(const Ch* text, int c, int mode);
-template <class Ch> KILNUTIL_API Ch* KILNUTILT_NextToken(Ch* dest, const Ch* text, const Ch* separators, int size);
-template <class Ch> KILNUTIL_API int KILNUTILT_SeparateStrToTokenList(Ch* text, Ch** list, int sep, int max);
-template <class Ch> KILNUTIL_API int KILNUTILT_FirstLineTokens(Ch* text, int sep);
-template <class Ch> KILNUTIL_API int KILNUTILT_LineCount(const Ch* text);
+template <class Ch>
+KILNUTIL_API Ch* KILNUTILT_TrimLeft(Ch* text);
+template <class Ch>
+KILNUTIL_API Ch* KILNUTILT_TrimRight(Ch* text);
+template <class Ch>
+KILNUTIL_API Ch* KILNUTILT_TrimBoth(Ch* text);
+template <class Ch>
+KILNUTIL_API Ch* KILNUTILT_ExposedCharPos(const Ch* text, int target, unsigned int flags, int* status);
+template <class Ch>
+KILNUTIL_API Ch* KILNUTILT_StrChar(const Ch* text, int c, int mode);
+template <class Ch>
+KILNUTIL_API Ch* KILNUTILT_NextToken(Ch* dest, const Ch* text, const Ch* separators, int size);
+template <class Ch>
+KILNUTIL_API int KILNUTILT_SeparateStrToTokenList(Ch* text, Ch** list, int sep, int max);
+template <class Ch>
+KILNUTIL_API int KILNUTILT_FirstLineTokens(Ch* text, int sep);
+template <class Ch>
+KILNUTIL_API int KILNUTILT_LineCount(const Ch* text);
 /* Tab-separated fields in the first line (only tabs count). */
-template <class Ch> KILNUTIL_API int KILNUTILT_WordsInLine(const Ch* text);
-template <class Ch> KILNUTIL_API int KILNUTILT_num_words_in_lines(const Ch* text, int lines);
+template <class Ch>
+KILNUTIL_API int KILNUTILT_WordsInLine(const Ch* text);
+template <class Ch>
+KILNUTIL_API int KILNUTILT_num_words_in_lines(const Ch* text, int lines);
 /* The token count the first lines lines agree on (tab: the largest), or -1
  * (lines below 1; not tab: the text ends before the lines do), -2 (not tab: a
  * line with fewer than two tokens), -3 (not tab: lines disagree). A count that
  * reaches enough (above 0) is returned at once. */
-template <class Ch> KILNUTIL_API int KILNUTILT_CountConsistenTokens(Ch* text, int sep, int enough, int lines);
+template <class Ch>
+KILNUTIL_API int KILNUTILT_CountConsistenTokens(Ch* text, int sep, int enough, int lines);
 /* The column separator of delimited text: 9 (tab), 44 (",") or 59 (";"), or
  * -1 (lines below 1 checks 3 lines). */
-template <class Ch> KILNUTIL_API int KILNUTILT_FindSeparator(Ch* text, int enough, int lines);
+template <class Ch>
+KILNUTIL_API int KILNUTILT_FindSeparator(Ch* text, int enough, int lines);
 #endif /* __cplusplus */
 
 #endif /* KILNUTIL_TEXT_H */

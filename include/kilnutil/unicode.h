@@ -88,18 +88,18 @@ typedef struct MbcsToUTF8CallbackBuffer {
 
 /* State of one text file opened as UTF-8 (INIT, BEGIN, END). */
 typedef struct TextFileToUTF8Context {
-  char path[1040];             /* UTF-8 path of the file; set by the caller */
-  KILN_WCHAR temp_path[520];   /* the converted copy; empty when none */
-  int binary_reopen;           /* reopen the copy with "rb" */
-  int write_mark;              /* start the copy with EF BB BF */
-  int keep_mark;               /* unconverted: leave the stream at offset 0 */
-  int reopen_as_utf8;          /* unconverted: reopen with "rt, ccs=UTF-8" */
-  int utf8_text_mode;          /* copy reopened "rt, ccs=UTF-8" (else "rt") unless binary */
-  int guess;                   /* detection may guess beyond the mark */
-  unsigned char mark_size;     /* set by BEGIN: mark bytes at the stream's start */
-  FILE* converted_stream;      /* set by BEGIN: the stream on the copy */
-  const char* fallback_mode;   /* reopen mode when conversion fails; required */
-  int no_conversion;           /* never convert; only skip or keep the mark */
+  char path[1040];           /* UTF-8 path of the file; set by the caller */
+  KILN_WCHAR temp_path[520]; /* the converted copy; empty when none */
+  int binary_reopen;         /* reopen the copy with "rb" */
+  int write_mark;            /* start the copy with EF BB BF */
+  int keep_mark;             /* unconverted: leave the stream at offset 0 */
+  int reopen_as_utf8;        /* unconverted: reopen with "rt, ccs=UTF-8" */
+  int utf8_text_mode;        /* copy reopened "rt, ccs=UTF-8" (else "rt") unless binary */
+  int guess;                 /* detection may guess beyond the mark */
+  unsigned char mark_size;   /* set by BEGIN: mark bytes at the stream's start */
+  FILE* converted_stream;    /* set by BEGIN: the stream on the copy */
+  const char* fallback_mode; /* reopen mode when conversion fails; required */
+  int no_conversion;         /* never convert; only skip or keep the mark */
 } TextFileToUTF8Context;
 
 /* ---- Buffer conversions (a source length of -1: NUL-terminated). */
@@ -116,7 +116,8 @@ KILNUTIL_API int KILNUTIL_UNICODE_UTF16_to_UTF8_buffers(char* dst, int dst_size,
 /* UTF-8 to UTF-16: units converted minus one; 0 for an empty source; -1 when
  * it does not fit or fails. With an explicit length a zero unit may be stored
  * at index dst_units: give one spare unit. */
-KILNUTIL_API int KILNUTIL_UNICODE_UTF8_to_UTF16_buffers_ex(KILN_WCHAR* dst, int dst_units, const char* src, int src_len);
+KILNUTIL_API int KILNUTIL_UNICODE_UTF8_to_UTF16_buffers_ex(KILN_WCHAR* dst, int dst_units, const char* src,
+                                                           int src_len);
 /* Swaps the bytes of every unit up to the zero unit, in place; returns 1. */
 KILNUTIL_API int KILNUTIL_UNICODE_UTF16LE_to_UTF16BE(KILN_WCHAR* text);
 /* Converts the record's MBCS text to UTF-8 in its buffer, growing it through
@@ -263,8 +264,8 @@ KILNUTIL_END_C
  * can give the last ones back. The library's character sources implement it. */
 class KilnByteSource {
 public:
-  virtual int next_byte() = 0;               /* 0..255, or -1 at the end */
-  virtual int push_back_byte(int byte) = 0;  /* byte, or -1 when refused */
+  virtual int next_byte() = 0;              /* 0..255, or -1 at the end */
+  virtual int push_back_byte(int byte) = 0; /* byte, or -1 when refused */
 
 protected:
   ~KilnByteSource() = default;

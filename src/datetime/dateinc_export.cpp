@@ -179,9 +179,9 @@ struct SnapTarget {
 };
 
 constexpr SnapTarget kSnapTargets[] = {
-    {604800.0, 86400.0, 16},    // a week
-    {2678400.0, 604800.0, 32},  // 31 days
-    {7862400.0, 1209600.0, 64}, // 91 days
+    {604800.0, 86400.0, 16},     // a week
+    {2678400.0, 604800.0, 32},   // 31 days
+    {7862400.0, 1209600.0, 64},  // 91 days
 };
 
 // An increment in days snapped to a week, 31 days or 91 days when near one.

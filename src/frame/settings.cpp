@@ -78,9 +78,7 @@ unsigned effective_code_page(int code_page) {
 
 extern "C" {
 
-unsigned int set_code_page_for_string_process(unsigned int cp) {
-  return g_string_process_code_page.exchange(cp);
-}
+unsigned int set_code_page_for_string_process(unsigned int cp) { return g_string_process_code_page.exchange(cp); }
 
 unsigned int get_code_page_of_lang_index(int index) {
   if (index < 0 || index >= 5) return kiln::frame::kCodePageNotSet;
@@ -101,9 +99,7 @@ int KILNUTIL_is_Western_system(int use_system) {
   return kiln::platform::ansi_code_page() - 1200u < 55u;
 }
 
-unsigned int KILNUTIL_SetReal2StrInternalOptions(unsigned int opts) {
-  return g_real2str_options.exchange(opts);
-}
+unsigned int KILNUTIL_SetReal2StrInternalOptions(unsigned int opts) { return g_real2str_options.exchange(opts); }
 
 unsigned int KILNUTIL_GetReal2StrInternalOptions(void) { return g_real2str_options.load(); }
 
@@ -140,9 +136,7 @@ unsigned char KILNUTIL_Strict_good_C_identifier(int get, unsigned char v) {
   return 0;
 }
 
-unsigned int set_parenth_use_angle_brackets(unsigned int v) {
-  return g_parenth_use_angle_brackets.exchange(v);
-}
+unsigned int set_parenth_use_angle_brackets(unsigned int v) { return g_parenth_use_angle_brackets.exchange(v); }
 
 unsigned short KILNUTIL_first_day_of_week(int set, unsigned short d) {
   return set != 0 ? g_first_day_of_week.exchange(d) : g_first_day_of_week.load();

@@ -30,6 +30,4 @@ void Parts::RemoveAll() { items_->clear(); }
 
 ImportFilesPartialPart& Parts::operator[](int index) { return items_->at(static_cast<std::size_t>(index)); }
 
-const ImportFilesPartialPart& Parts::operator[](int index) const {
-  return items_->at(static_cast<std::size_t>(index));
-}
+const ImportFilesPartialPart& Parts::operator[](int index) const { return items_->at(static_cast<std::size_t>(index)); }

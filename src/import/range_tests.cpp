@@ -80,9 +80,7 @@ int KILNUTIL_AreEqualRanges(const CellRange* a, const CellRange* b) {
 
 int KILNUTIL_IsEmptyRange(const CellRange* range) { return range != nullptr && is_empty(*range) ? 1 : 0; }
 
-int KILNUTIL_IsRangeAll(const CellRange* range) {
-  return range != nullptr && is_all(*range) ? 1 : 0;
-}
+int KILNUTIL_IsRangeAll(const CellRange* range) { return range != nullptr && is_all(*range) ? 1 : 0; }
 
 int KILNUTIL_IsRangeAllRows(const CellRange* range) {
   return range != nullptr && covers_all(*range, Dim::rows) ? 1 : 0;

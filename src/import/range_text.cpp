@@ -13,7 +13,9 @@ namespace {
 // Plain search (no brackets or quotes honoured) that steps whole characters.
 constexpr unsigned int kPlainSearch = 1;
 
-char* find_plain(char* text, char c) { return kiln::text::search_char(text, static_cast<unsigned char>(c), kPlainSearch); }
+char* find_plain(char* text, char c) {
+  return kiln::text::search_char(text, static_cast<unsigned char>(c), kPlainSearch);
+}
 
 bool is_digit(char c) { return c >= '0' && c <= '9'; }
 

@@ -36,7 +36,7 @@ constexpr std::size_t kMaxExponentText = 39;
 
 // Bytes of the caller's text replaced while parsing, put back on return.
 class TextCuts {
- public:
+public:
   ~TextCuts() {
     for (int i = count_; i-- > 0;) *cuts_[i].at = cuts_[i].saved;
   }
@@ -51,7 +51,7 @@ class TextCuts {
   // Leaves every replacement in the text.
   void keep() { count_ = 0; }
 
- private:
+private:
   struct Cut {
     char* at;
     char saved;
@@ -229,7 +229,9 @@ unsigned int KILNUTIL_cvtstr2real_ex(char* text, double* value, unsigned int fla
   return result.code;
 }
 
-unsigned int KILNUTIL_cvtstr2real(char* text, double* value) { return KILNUTIL_cvtstr2real_ex(text, value, kStrict, nullptr); }
+unsigned int KILNUTIL_cvtstr2real(char* text, double* value) {
+  return KILNUTIL_cvtstr2real_ex(text, value, kStrict, nullptr);
+}
 
 double KILNUTIL_str2real(char* text) {
   double value = 0.0;

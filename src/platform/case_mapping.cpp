@@ -87,12 +87,9 @@ int compare_ignoring_case(const KILN_WCHAR* a, const KILN_WCHAR* b) {
   UCollator* collator = case_insensitive_collator();
   if (collator == nullptr) return 0;
   switch (ucol_strcoll(collator, as_uchars(a), -1, as_uchars(b), -1)) {
-    case UCOL_LESS:
-      return -1;
-    case UCOL_GREATER:
-      return 1;
-    default:
-      return 0;
+    case UCOL_LESS: return -1;
+    case UCOL_GREATER: return 1;
+    default: return 0;
   }
 }
 

@@ -89,9 +89,8 @@ ReplaceStatus FileReplacement::commit() {
   }
   struct stat now {};
   const bool exists_now = stat(path_.c_str(), &now) == 0;
-  const bool unchanged = original_existed_
-                             ? exists_now && now.st_dev == original_device_ && now.st_ino == original_inode_
-                             : !exists_now;
+  const bool unchanged =
+      original_existed_ ? exists_now && now.st_dev == original_device_ && now.st_ino == original_inode_ : !exists_now;
   if (!unchanged) {
     discard();
     return ReplaceStatus::kVanished;

@@ -13,7 +13,9 @@ namespace kiln::platform {
 
 long long stream_position(std::FILE* stream) { return ftello(stream); }
 
-bool seek_stream(std::FILE* stream, long long offset) { return fseeko(stream, static_cast<off_t>(offset), SEEK_SET) == 0; }
+bool seek_stream(std::FILE* stream, long long offset) {
+  return fseeko(stream, static_cast<off_t>(offset), SEEK_SET) == 0;
+}
 
 bool seek_stream_end(std::FILE* stream) { return fseeko(stream, 0, SEEK_END) == 0; }
 

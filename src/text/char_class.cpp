@@ -63,9 +63,7 @@ unsigned char char_class(unsigned c) {
   return kClasses[c];
 }
 
-bool is_space_slow(unsigned c) {
-  return c == ' ' || c - 9u <= 4u || (c == 0xA0 && frame::test_char_nbsp());
-}
+bool is_space_slow(unsigned c) { return c == ' ' || c - 9u <= 4u || (c == 0xA0 && frame::test_char_nbsp()); }
 
 int standalone_opener(unsigned c) {
   switch (c) {

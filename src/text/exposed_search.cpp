@@ -12,7 +12,7 @@ namespace kiln::text {
 
 namespace {
 
-kiln::frame::Relaxed<int> g_escape_switch{0};                    // 0: backslashes escape; 1: they are ordinary
+kiln::frame::Relaxed<int> g_escape_switch{0};                     // 0: backslashes escape; 1: they are ordinary
 kiln::frame::Relaxed<const char*> g_last_scan_position{nullptr};  // see last_scan_position()
 
 constexpr int kSaveAndDisableEscapes = KILNUTIL_EXPOSED_SAVE_AND_DISABLE_ESCAPES;

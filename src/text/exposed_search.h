@@ -120,8 +120,8 @@ const Ch* numeric_literal_end(const Ch* start) {
 enum class ScanRole : unsigned char { kPlain, kQuote, kNumber, kOpen, kClose, kStop };
 
 struct ScanTables {
-  ScanRole role[256]{};        // kStop: NUL and bytes from 0x80 (read as characters)
-  unsigned char pair[128]{};   // the pair index of a bracket character
+  ScanRole role[256]{};       // kStop: NUL and bytes from 0x80 (read as characters)
+  unsigned char pair[128]{};  // the pair index of a bracket character
 };
 
 inline constexpr ScanTables kScanTables = [] {
@@ -208,8 +208,7 @@ const Ch* exposed_scan(const Ch* text, const Ch* end, const Match& match, const 
       case ScanRole::kClose:
         if (open == kScanTables.pair[c] && --depth == 0) open = -1;
         break;
-      default:
-        break;
+      default: break;
     }
   }
 }
@@ -220,7 +219,8 @@ const Ch* find_exposed(const Ch* text, int target, unsigned flags, const ScanRul
                        const Ch** first_skipped) {
   if (target == 0) return exposed_scan(text, end, AnySpace{}, rules, status, first_skipped);
   const auto t = static_cast<unsigned>(target);
-  if (flags & kCaseBlind) return exposed_scan(text, end, SameCharCaseBlind{t, upper_case(t)}, rules, status, first_skipped);
+  if (flags & kCaseBlind)
+    return exposed_scan(text, end, SameCharCaseBlind{t, upper_case(t)}, rules, status, first_skipped);
   return exposed_scan(text, end, SameChar{t}, rules, status, first_skipped);
 }
 
@@ -248,7 +248,8 @@ const Ch* exposed_char_pos(const Ch* text, int target, unsigned flags, int* stat
 void record_scan(const char* text, const char* first_skipped);
 
 template <class Match>
-const char* exposed_match(const char* text, const Match& match, unsigned flags, bool loc, const char* end, int* status) {
+const char* exposed_match(const char* text, const Match& match, unsigned flags, bool loc, const char* end,
+                          int* status) {
   if (status != nullptr) *status = 0;
   const char* first_skipped = nullptr;
   const char* hit = exposed_scan(text, end, match, scan_rules(flags, loc), status, &first_skipped);

@@ -13,7 +13,7 @@ namespace {
 
 // Copies whole characters while they fit into size - 1 bytes.
 class BoundedCopy {
- public:
+public:
   BoundedCopy(char* dest, long size) : out_(dest), room_(size - 1) {}
   bool put(const char* from, const char* to) {
     if (to - from > room_) return false;
@@ -24,7 +24,7 @@ class BoundedCopy {
     if (room_ >= 0) *out_ = '\0';
   }
 
- private:
+private:
   char* out_;
   long room_;
 };

@@ -8,7 +8,6 @@
 
 #include <kilnutil/text.h>
 
-
 namespace kiln::text {
 
 namespace {
@@ -47,10 +46,10 @@ char* search_char(const char* text, int c, unsigned mode) {
   const auto ch = static_cast<unsigned>(c);
   const Target target{ch, (mode & kStrCharEitherCase) ? other_case(ch) : ch};
   PairNesting nesting = strchr_nesting();
-  const char* hit =
-      walks_bytes()
-          ? find_str_char(text, target, mode, [](const char*& p) { return read_byte(p); }, nesting)
-          : find_str_char(text, target, mode, [](const char*& p) { return read_char(p); }, nesting);
+  const char* hit = walks_bytes() ? find_str_char(
+                                        text, target, mode, [](const char*& p) { return read_byte(p); }, nesting)
+                                  : find_str_char(
+                                        text, target, mode, [](const char*& p) { return read_char(p); }, nesting);
   remember_strchr_nesting(nesting);
   return mutable_pos(hit);
 }

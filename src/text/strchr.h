@@ -34,10 +34,10 @@ struct PairNesting {
 
 // The modes of the character search shared by KILNUTIL_strchr and the
 // narrow/wide StrChar template.
-inline constexpr unsigned kStrCharPlain = KILNUTIL_STRCHR_PLAIN;                     // no pairs or quotes
-inline constexpr unsigned kStrCharBackward = KILNUTIL_STRCHR_BACKWARD;               // plain: the last hit
+inline constexpr unsigned kStrCharPlain = KILNUTIL_STRCHR_PLAIN;                       // no pairs or quotes
+inline constexpr unsigned kStrCharBackward = KILNUTIL_STRCHR_BACKWARD;                 // plain: the last hit
 inline constexpr unsigned kStrCharSkipLeadingRun = KILNUTIL_STRCHR_AFTER_LEADING_RUN;  // plain: behind the run of c
-inline constexpr unsigned kStrCharTrimmed = KILNUTIL_STRCHR_TRIMMED;  // plain: white space at both ends left out
+inline constexpr unsigned kStrCharTrimmed = KILNUTIL_STRCHR_TRIMMED;         // plain: white space at both ends left out
 inline constexpr unsigned kStrCharEitherCase = KILNUTIL_STRCHR_EITHER_CASE;  // c matches in either case
 
 // The search itself, over any character width: `read` reads one character

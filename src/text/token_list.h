@@ -19,7 +19,7 @@ inline unsigned token_list_flags(int max) {
   constexpr unsigned kOrdinarySingleQuote = kNoSingleQuote | kNoAngleBrackets | kKeepNumbers;
   constexpr unsigned kQuotingSingleQuote = kNoAngleBrackets | kKeepNumbers;
   return max == KILNUTIL_TOKENS_NO_LIMIT || max == KILNUTIL_TOKENS_LIMIT_60000 ? kOrdinarySingleQuote
-                                                                                : kQuotingSingleQuote;
+                                                                               : kQuotingSingleQuote;
 }
 
 // Splits text at each exposed sep (0: ","; -1: white space, and the white

@@ -19,13 +19,11 @@ kiln::frame::Relaxed<bool> g_enclosed_token{false};  // the last token was the i
 
 constexpr unsigned kAnywhere = 0x10000;
 
-bool is_token_operator(unsigned c) {
-  return c == '+' || c == '-' || c == '/' || c == '=' || c == '^';
-}
+bool is_token_operator(unsigned c) { return c == '+' || c == '-' || c == '/' || c == '=' || c == '^'; }
 
 // Copies characters into a destination the caller sized as its text.
 class TokenWriter {
- public:
+public:
   explicit TokenWriter(char* dest) : begin_(dest), out_(dest) {}
   void put(const char* from, const char* to) {
     while (from < to) *out_++ = *from++;
@@ -37,7 +35,7 @@ class TokenWriter {
   }
   void finish() { *out_ = '\0'; }
 
- private:
+private:
   char* begin_;
   char* out_;
 };

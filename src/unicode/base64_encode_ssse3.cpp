@@ -26,8 +26,8 @@ KILN_TARGET_SSSE3 __m128i group_values(__m128i bytes) {
 // 6-bit values to alphabet characters: each range of the alphabet (A-Z,
 // a-z, 0-9, +, /) is the value plus a fixed offset, picked by a shuffle.
 KILN_TARGET_SSSE3 __m128i alphabet_characters(__m128i values) {
-  const __m128i offsets = _mm_setr_epi8('a' - 26, '0' - 52, '0' - 52, '0' - 52, '0' - 52, '0' - 52, '0' - 52,
-                                        '0' - 52, '0' - 52, '0' - 52, '0' - 52, '+' - 62, '/' - 63, 'A', 0, 0);
+  const __m128i offsets = _mm_setr_epi8('a' - 26, '0' - 52, '0' - 52, '0' - 52, '0' - 52, '0' - 52, '0' - 52, '0' - 52,
+                                        '0' - 52, '0' - 52, '0' - 52, '+' - 62, '/' - 63, 'A', 0, 0);
   __m128i range = _mm_subs_epu8(values, _mm_set1_epi8(51));
   const __m128i upper = _mm_cmpgt_epi8(_mm_set1_epi8(26), values);
   range = _mm_or_si128(range, _mm_and_si128(upper, _mm_set1_epi8(13)));

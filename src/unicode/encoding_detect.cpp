@@ -34,8 +34,7 @@ size_t ascii_run(const unsigned char* bytes, size_t count) {
   size_t i = 0;
   while (i + 32 <= count) {
     const uint64_t bad = zero_or_high_byte(load_word(bytes + i)) | zero_or_high_byte(load_word(bytes + i + 8)) |
-                         zero_or_high_byte(load_word(bytes + i + 16)) |
-                         zero_or_high_byte(load_word(bytes + i + 24));
+                         zero_or_high_byte(load_word(bytes + i + 16)) | zero_or_high_byte(load_word(bytes + i + 24));
     if (bad != 0) break;
     i += 32;
   }

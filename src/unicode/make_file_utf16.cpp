@@ -14,10 +14,10 @@
 namespace kiln::unicode {
 
 using platform::FileBytes;
-using platform::ReadStatus;
 using platform::read_whole_file;
-using platform::ReplaceStatus;
+using platform::ReadStatus;
 using platform::replace_file;
+using platform::ReplaceStatus;
 using platform::stream_size;
 
 namespace {
@@ -38,7 +38,8 @@ std::string utf8_path(const KILN_WCHAR* path) {
 void make_folders_for(const std::string& path) {
   const size_t last = path.find_last_of('/');
   if (last == std::string::npos || last == 0) return;
-  for (size_t slash = path.find('/', 1); slash != std::string::npos && slash <= last; slash = path.find('/', slash + 1)) {
+  for (size_t slash = path.find('/', 1); slash != std::string::npos && slash <= last;
+       slash = path.find('/', slash + 1)) {
     const std::string folder = path.substr(0, slash);
     if (!platform::make_folder(folder.c_str())) return;
   }
@@ -55,11 +56,11 @@ void rewrite_as_utf16(const std::string& path) {
   if (file.size >= 2 && file.data[0] == 0xFF && file.data[1] == 0xFE) return;
   if (file.size > 0x7FFFFFFF) return;
   WideScratch units;
-  const int count =
-      to_wide(resolve_code_page(-1), reinterpret_cast<const char*>(file.data.get()), static_cast<int>(file.size), units);
+  const int count = to_wide(resolve_code_page(-1), reinterpret_cast<const char*>(file.data.get()),
+                            static_cast<int>(file.size), units);
   if (count == 0) return;
-  replace_file(path.c_str(), {{kUtf16LeMark, sizeof kUtf16LeMark},
-                              {units.data(), static_cast<size_t>(count) * sizeof(KILN_WCHAR)}});
+  replace_file(path.c_str(),
+               {{kUtf16LeMark, sizeof kUtf16LeMark}, {units.data(), static_cast<size_t>(count) * sizeof(KILN_WCHAR)}});
 }
 
 }  // namespace

@@ -14,8 +14,8 @@
 namespace kiln::unicode {
 
 using platform::FileBytes;
-using platform::ReadStatus;
 using platform::read_whole_file;
+using platform::ReadStatus;
 
 bool looks_like_utf16_text(const unsigned char* bytes, size_t size) {
   if (size < 2) return false;

@@ -29,7 +29,12 @@ std::string stdio_mode(const char* mode) {
   std::string result;
   for (const char* p = mode; *p != '\0' && *p != ','; ++p) {
     switch (*p) {
-      case 'r': case 'w': case 'a': case '+': case 'b': case 'x': result += *p; break;
+      case 'r':
+      case 'w':
+      case 'a':
+      case '+':
+      case 'b':
+      case 'x': result += *p; break;
       case 'N': result += 'e'; break;
       default: break;
     }
@@ -68,9 +73,8 @@ FILE* KILNUTIL_UTF8_fopen(const char* path, const char* mode) {
   return std::fopen(path, stdio_mode(mode).c_str());
 }
 
-HANDLE KILNUTIL_UTF8_CreateFile(const char* path, unsigned int access, unsigned int /*share_mode*/,
-                                void* /*security*/, unsigned int disposition, unsigned int flags_and_attributes,
-                                HANDLE /*template_file*/) {
+HANDLE KILNUTIL_UTF8_CreateFile(const char* path, unsigned int access, unsigned int /*share_mode*/, void* /*security*/,
+                                unsigned int disposition, unsigned int flags_and_attributes, HANDLE /*template_file*/) {
   OpenRule rule = OpenRule::kOpenExisting;
   const bool known_rule = open_rule(disposition, rule);
   if (!fits_wide_buffer(path, kPathUnits) || !known_rule) {

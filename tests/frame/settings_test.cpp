@@ -223,8 +223,8 @@ public:
 };
 
 TEST(HostAccess, GuiSwitchesGoToTheRegisteredObject) {
-  EXPECT_EQ(KILNUTIL_enable_vela_gui(1), 0);      // no object: nothing happens
-  EXPECT_EQ(KILNUTIL_is_vela_gui_enabled(), 1);   // no object: enabled
+  EXPECT_EQ(KILNUTIL_enable_vela_gui(1), 0);     // no object: nothing happens
+  EXPECT_EQ(KILNUTIL_is_vela_gui_enabled(), 1);  // no object: enabled
   FakeHost host;
   KILNUTIL_set_vkutil_access_obj(&host);
   EXPECT_EQ(KILNUTIL_get_vkutil_access_obj(), &host);

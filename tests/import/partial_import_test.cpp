@@ -177,14 +177,14 @@ TEST(PartialRequest, SuffixesAndClauses) {
     const char* parts;
   } cases[] = {
       {"1:5 8#", "0:4 #; 7:7 #"},
-      {"1:5/2", "0:4 /2"},                 // the suffix is not read as an item
+      {"1:5/2", "0:4 /2"},  // the suffix is not read as an item
       {"4*3", "3:3 *3"},
-      {"2*3/x", "1:1; 2:2"},               // "/" wins over "*"; no integer after it: no suffix
-      {"/7", "6:6 /7"},                    // with nothing before it, it is an item as well
-      {"1/12345678", "0:0 /12345"},        // six characters at most
+      {"2*3/x", "1:1; 2:2"},         // "/" wins over "*"; no integer after it: no suffix
+      {"/7", "6:6 /7"},              // with nothing before it, it is an item as well
+      {"1/12345678", "0:0 /12345"},  // six characters at most
       {"1:0|yave-1y", "0:-1 yave1y"},
       {"2:30|3-7d|max-q", "1:29 3-7d max1q"},
-      {"4|2-3", "3:3; 1:1; 2:2"},          // without ":" its numbers are plain items
+      {"4|2-3", "3:3; 1:1; 2:2"},  // without ":" its numbers are plain items
   };
   for (const auto& c : cases) EXPECT_EQ(parsed(c.request), c.parts) << c.request;
   ImportFilesPartialParts parts;

@@ -13,8 +13,8 @@
 namespace {
 
 constexpr int kAll = KILNUTIL_RANGE_ALL;
-constexpr int kGrid = 4;        // finite indices 0..3
-constexpr int kFar = kGrid;     // beyond every finite pair
+constexpr int kGrid = 4;     // finite indices 0..3
+constexpr int kFar = kGrid;  // beyond every finite pair
 
 // Every pairing of row and column pairs: finite, to the end, and the three
 // spellings of "all".
@@ -145,7 +145,8 @@ TEST(RangeAlgebra, BoundingRangeOfClosedRangesIsSmallestBox) {
       ASSERT_TRUE(every_cell([&](int row, int col) {
         return model_has(box, row, col) ==
                (model_box_covers(a.r1, a.r2, b.r1, b.r2, row) && model_box_covers(a.c1, a.c2, b.c1, b.c2, col));
-      })) << show(a) << " + " << show(b);
+      })) << show(a)
+          << " + " << show(b);
     }
   }
 }
@@ -182,7 +183,7 @@ TEST(RangeSpecialValues, MergeComparesMinusOneAsNumber) {
     const char* merged;
   };
   const Case cases[] = {
-      {{1, 0, 3, 2}, {4, 0, 6, 2}, 0, "1,0,3,2"},    // touching only
+      {{1, 0, 3, 2}, {4, 0, 6, 2}, 0, "1,0,3,2"},  // touching only
       {{1, 0, 3, 2}, {3, 0, 6, 2}, 1, "1,0,6,2"},
       {{1, 0, 3, 2}, {2, 0, -1, 2}, 1, "1,0,3,2"},   // the start lies inside, and 3 >= -1 keeps the end
       {{3, 0, -1, 2}, {2, 0, 5, 2}, 1, "2,0,5,2"},   // the open end is lost
@@ -254,7 +255,7 @@ TEST(RangeBuilding, BuildersAndShapeQueries) {
     CellRange r;
     int cols_to_end, single_cell;
   } shapes[] = {
-      {{1, 1, -1, -1}, 1, 0}, {{0, 0, -1, -1}, 0, 0}, {{2, 3, 2, 3}, 0, 1},    {{2, 3, 2, 4}, 0, 0},
+      {{1, 1, -1, -1}, 1, 0}, {{0, 0, -1, -1}, 0, 0}, {{2, 3, 2, 3}, 0, 1},     {{2, 3, 2, 4}, 0, 0},
       {{2, 3, 5, 3}, 0, 0},   {{0, 2, 0, -1}, 1, 0},  {{-1, -1, -1, -1}, 0, 1},
   };
   for (const auto& c : shapes) {

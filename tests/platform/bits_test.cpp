@@ -32,8 +32,15 @@ TEST(PlatformBits, SwapsScansAndProducts) {
 
 // The eight-at-a-time byte tests against a byte-by-byte look at the same text.
 TEST(PlatformBits, WordByteTestsAgreeWithBytes) {
-  const char* texts[] = {"abcdefgh", "abc\0defg", "\x80" "bcdefgh", "abcdefg\xff", "\x01\x01\x01\x01\x01\x01\x01\x01",
-                         "a,b,c,d,", "\0\0\0\0\0\0\0\0", "abcdefg,"};
+  const char* texts[] = {"abcdefgh",
+                         "abc\0defg",
+                         "\x80"
+                         "bcdefgh",
+                         "abcdefg\xff",
+                         "\x01\x01\x01\x01\x01\x01\x01\x01",
+                         "a,b,c,d,",
+                         "\0\0\0\0\0\0\0\0",
+                         "abcdefg,"};
   for (const char* text : texts) {
     const std::uint64_t word = kiln::platform::load_word(text);
     bool zero_or_high = false, high = false;

@@ -15,13 +15,13 @@ namespace text_test {
 
 // Runs undo at the end of the scope.
 class Restore {
- public:
+public:
   explicit Restore(std::function<void()> undo) : undo_(std::move(undo)) {}
   Restore(const Restore&) = delete;
   Restore& operator=(const Restore&) = delete;
   ~Restore() { undo_(); }
 
- private:
+private:
   std::function<void()> undo_;
 };
 
@@ -54,12 +54,12 @@ inline Restore escapes_off() {
 
 // A writable, NUL-terminated copy of a text.
 class Text {
- public:
+public:
   explicit Text(const std::string& s) : bytes_(s.begin(), s.end()) { bytes_.push_back('\0'); }
   char* get() { return bytes_.data(); }
   char* at(std::size_t i) { return bytes_.data() + i; }
 
- private:
+private:
   std::vector<char> bytes_;
 };
 

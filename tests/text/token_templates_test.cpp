@@ -76,10 +76,20 @@ std::vector<std::string> results(Text<Ch> text) {
 }
 
 TEST(TokenTemplates, NarrowAndWideAgree) {
-  const char* corpus[] = {"", "a", "a,b,c\n1,2,3\n4,5,6\n", "a;b\r\nc;d\r\ne;f", "x\ty\tz\n1\t2\n",
-                          " \t padded , text \t ", "it's, a, b", "f(a,b),c\n\"q,r\",s\n", "[a,b]{c,d}<e,f>\n",
-                          "1.5e-3,2\n3,\"open", "\n\n\n",
-                          "\xC3\xA9t\xC3\xA9,\xE2\x82\xAC 5,\xC2\xA0x\n\xC3\xA9,b", "a\xC2\xA0" "b c\td"};
+  const char* corpus[] = {"",
+                          "a",
+                          "a,b,c\n1,2,3\n4,5,6\n",
+                          "a;b\r\nc;d\r\ne;f",
+                          "x\ty\tz\n1\t2\n",
+                          " \t padded , text \t ",
+                          "it's, a, b",
+                          "f(a,b),c\n\"q,r\",s\n",
+                          "[a,b]{c,d}<e,f>\n",
+                          "1.5e-3,2\n3,\"open",
+                          "\n\n\n",
+                          "\xC3\xA9t\xC3\xA9,\xE2\x82\xAC 5,\xC2\xA0x\n\xC3\xA9,b",
+                          "a\xC2\xA0"
+                          "b c\td"};
   for (const char* sample : corpus) {
     const std::string text = sample;
     const std::vector<std::string> a = results<char>(text), b = results<char16_t>(wide(text));
@@ -145,9 +155,9 @@ TEST(TokenTemplates, ConsistentTokenCounts) {
   EXPECT_EQ(consistent("a,b,c\nd,e,f\ng,h,i", ',', 0, 0), -1);
   EXPECT_EQ(consistent("alone\nx,y\n", ',', 0, 2), -2);
   EXPECT_EQ(consistent("a,b\nc,d,e\nf,g\n", ',', 0, 3), -3);
-  EXPECT_EQ(consistent("a,b\nc,d,e\nf,g\n", ',', 2, 3), 2);      // enough at once
-  EXPECT_EQ(consistent("a\tb\nc\td\te\nf\n", '\t', 0, 3), 3);    // the largest
-  EXPECT_EQ(consistent("a\tb\nc\td\te\nf\n", '\t', 0, 10), 3);   // tab: text end is fine
+  EXPECT_EQ(consistent("a,b\nc,d,e\nf,g\n", ',', 2, 3), 2);     // enough at once
+  EXPECT_EQ(consistent("a\tb\nc\td\te\nf\n", '\t', 0, 3), 3);   // the largest
+  EXPECT_EQ(consistent("a\tb\nc\td\te\nf\n", '\t', 0, 10), 3);  // tab: text end is fine
 }
 
 int separator(std::string text, int lines) { return KILNUTILT_FindSeparator(text.data(), 0, lines); }
@@ -206,9 +216,9 @@ std::string next_token(const char* text, int size) {
 
 TEST(TokenTemplates, NextToken) {
   EXPECT_EQ(next_token("ab,cd", 8), "ab@3");
-  EXPECT_EQ(next_token("xyz", 8), "xyz@3");          // the NUL
-  EXPECT_EQ(next_token("abcdef,g", 4), "abc@3");     // dest full
-  EXPECT_EQ(next_token("a\xC3\xA9,", 3), "a@1");     // no half characters
+  EXPECT_EQ(next_token("xyz", 8), "xyz@3");       // the NUL
+  EXPECT_EQ(next_token("abcdef,g", 4), "abc@3");  // dest full
+  EXPECT_EQ(next_token("a\xC3\xA9,", 3), "a@1");  // no half characters
   const char16_t* wtext = u"ab;cd";
   char16_t wdest[8];
   EXPECT_EQ(KILNUTIL_NextTokenW(wdest, wtext, u",;", 8), wtext + 3);
