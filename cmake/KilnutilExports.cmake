@@ -5,25 +5,14 @@
 # built library's dynamic symbols with the same lists.
 set(KILNUTIL_VERSION_NODE "KILNUTIL_${PROJECT_VERSION_MAJOR}")
 
-function(kilnutil_read_export_lists out_var)
-  file(GLOB lists CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/*/exports.txt")
-  list(SORT lists)
-  set(names "")
-  foreach(list_file IN LISTS lists)
-    file(STRINGS "${list_file}" lines)
-    foreach(line IN LISTS lines)
-      string(STRIP "${line}" line)
-      if(line STREQUAL "" OR line MATCHES "^#")
-        continue()
-      endif()
-      list(APPEND names "${line}")
-    endforeach()
-  endforeach()
-  set(${out_var} "${names}" PARENT_SCOPE)
-endfunction()
+include(${CMAKE_CURRENT_LIST_DIR}/KilnutilExportLists.cmake)
+# The configuration (and so the version script) is redone when a list is
+# added or edited.
+file(GLOB kilnutil_export_lists CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/*/exports.txt")
+set_property(DIRECTORY "${PROJECT_SOURCE_DIR}" APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${kilnutil_export_lists})
 
 function(kilnutil_write_version_script path)
-  kilnutil_read_export_lists(names)
+  kilnutil_read_export_lists(names "${PROJECT_SOURCE_DIR}")
   set(c_names "")
   set(cxx_names "")
   foreach(name IN LISTS names)

@@ -1,6 +1,8 @@
 // Any bytes through the buffer conversions, in UTF-8, 1252 and 932, with
 // destinations sized exactly as a host sizes them: no read past a terminator,
 // no write outside a destination, and the stated results.
+#include "fuzz_support.h"
+
 #include "platform/codepage.h"
 #include "unicode/code_page_direct.h"
 
@@ -15,9 +17,7 @@
 
 namespace {
 
-void check(bool condition) {
-  if (!condition) std::abort();
-}
+using fuzz_support::check;
 
 void mbcs_to_utf8_and_back(const char* text, int length, int code_page) {
   // Sized by asking first: unbounded conversion into a buffer of 3 bytes per input byte.

@@ -1,6 +1,8 @@
 // Any bytes through the buffer and stream detectors: the code is one of the
 // defined ones, the UTF-8 verdict agrees with a plain byte-by-byte check, and
 // the stream detector agrees with the buffer detector.
+#include "fuzz_support.h"
+
 #include "unicode/encoding_detect.h"
 
 #include <kilnutil/unicode.h>
@@ -13,9 +15,7 @@
 
 namespace {
 
-void check(bool condition) {
-  if (!condition) std::abort();
-}
+using fuzz_support::check;
 
 bool is_defined_code(unsigned code) {
   return code <= 3 || (code >= 0x101 && code <= 0x105) || code == 0x200;

@@ -2,6 +2,8 @@
 // buffers sized as a host sizes them (n bytes for mode n, the text's length
 // plus one otherwise): no access outside the text or the prefix, the text
 // unchanged, and prefix plus digit run spelling the text.
+#include "fuzz_support.h"
+
 #include <kilnutil/numeric.h>
 
 #include <cstdint>
@@ -9,17 +11,11 @@
 #include <cstring>
 #include <memory>
 
-namespace {
-
-void check(bool condition) {
-  if (!condition) std::abort();
-}
-
-}  // namespace
+using fuzz_support::check;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size == 0) return 0;
-  const int mode = static_cast<int>(data[0] % 24) - 2;  // -2 .. 21
+  const int mode = data[0] % 24 - 2;  // -2 .. 21
   ++data;
   --size;
   std::unique_ptr<char[]> text(new char[size + 1]);

@@ -1,6 +1,8 @@
 // Any bytes through the integer, radix, character-constant and exponent
 // parsers: no read past the terminator, no write outside the caller's
 // buffers, and the related forms agree with each other.
+#include "fuzz_support.h"
+
 #include <kilnutil/numeric.h>
 
 #include <cstdint>
@@ -10,9 +12,7 @@
 
 namespace {
 
-void check(bool condition) {
-  if (!condition) std::abort();
-}
+using fuzz_support::check;
 
 std::unique_ptr<char[]> copy_of(const char* text, std::size_t size) {
   std::unique_ptr<char[]> copy(new char[size + 1]);

@@ -1,6 +1,8 @@
 // Any bytes as a partial-import request: parsing never fails or reads past the
 // text, the queries agree with each other over a window of indices, and
 // unterminated option buffers are read no further than their size.
+#include "fuzz_support.h"
+
 #include <kilnutil/import.h>
 
 #include <algorithm>
@@ -11,9 +13,7 @@
 
 namespace {
 
-void check(bool condition) {
-  if (!condition) std::abort();
-}
+using fuzz_support::check;
 
 constexpr int kWindow = 64;
 

@@ -1,6 +1,8 @@
 // Any bytes as range reference text: no read past the terminator, no write
 // past outputs sized for the longest part, the text restored on success, and
 // both names of the parser agreeing.
+#include "fuzz_support.h"
+
 #include <kilnutil/import.h>
 
 #include <cstdint>
@@ -11,9 +13,7 @@
 
 namespace {
 
-void check(bool condition) {
-  if (!condition) std::abort();
-}
+using fuzz_support::check;
 
 struct Outputs {
   explicit Outputs(std::size_t size) {

@@ -3,6 +3,8 @@
 // path but the one rejected fraction (which may leave only "." for the
 // separator and a NUL behind the fraction digits), and ordinary decimal texts
 // bit-identical to the C library's correctly rounded strtod.
+#include "fuzz_support.h"
+
 #include <kilnutil/frame.h>
 #include <kilnutil/numeric.h>
 
@@ -13,9 +15,7 @@
 
 namespace {
 
-void check(bool condition) {
-  if (!condition) std::abort();
-}
+using fuzz_support::check;
 
 // Only differences the rejected-fraction path may leave.
 bool only_fraction_marks(const char* original, const char* text, std::size_t size, char separator) {

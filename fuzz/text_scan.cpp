@@ -2,6 +2,8 @@
 // escape switch), KILNUTIL_strchr, the bracket searches and the mismatch
 // counters: no read past the text's NUL, and every position returned is
 // null or inside the text.
+#include "fuzz_support.h"
+
 #include <kilnutil/frame.h>
 #include <kilnutil/text.h>
 
@@ -12,9 +14,7 @@
 
 namespace {
 
-void check(bool condition) {
-  if (!condition) std::abort();
-}
+using fuzz_support::check;
 
 struct Inside {
   const char* begin;

@@ -3,6 +3,8 @@
 // statements, terms, tokens, words, token lists, subscripts, argument
 // pointers, enclosing pairs and quoted terms. No access outside the text or
 // the buffers, and every position returned is null or inside the text.
+#include "fuzz_support.h"
+
 #include <kilnutil/frame.h>
 #include <kilnutil/text.h>
 
@@ -13,9 +15,7 @@
 
 namespace {
 
-void check(bool condition) {
-  if (!condition) std::abort();
-}
+using fuzz_support::check;
 
 // One exactly sized, writable copy of the input for each splitter.
 class Copy {

@@ -1,6 +1,8 @@
 // Any bytes through the narrow and wide token templates: no read past the
 // terminator, no write outside the token list or the destination, the text
 // restored where it must be, and the narrow and wide line counts agreeing.
+#include "fuzz_support.h"
+
 #include <kilnutil/text.h>
 
 #include <cstdint>
@@ -12,9 +14,7 @@
 
 namespace {
 
-void check(bool condition) {
-  if (!condition) std::abort();
-}
+using fuzz_support::check;
 
 template <class Ch>
 void exercise(const Ch* original, std::size_t length, int sep) {

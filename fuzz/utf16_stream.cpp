@@ -1,6 +1,8 @@
 // Any bytes as a UTF-16LE file converted a chunk at a time: the UTF-8 must be
 // exactly the whole text's conversion, whatever the chunk size (taken from
 // the first byte) and wherever pairs, lone surrogates and zero units fall.
+#include "fuzz_support.h"
+
 #include "unicode/utf16_stream_to_utf8.h"
 
 #include <kilnutil/unicode.h>
@@ -11,6 +13,8 @@
 #include <cstring>
 #include <string>
 #include <vector>
+
+using fuzz_support::check;
 
 namespace {
 
@@ -36,17 +40,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::size_t text_size = size - 1;
   FILE* in = std::tmpfile();
   FILE* out = std::tmpfile();
-  if (in == nullptr || out == nullptr) std::abort();
+  check(in != nullptr && out != nullptr);
   std::fwrite(text, 1, text_size, in);
   std::rewind(in);
-  if (kiln::unicode::utf16le_stream_to_utf8(in, text_size, out, chunk_units) != kiln::unicode::StreamConversion::kOk) {
-    std::abort();
-  }
+  check(kiln::unicode::utf16le_stream_to_utf8(in, text_size, out, chunk_units) == kiln::unicode::StreamConversion::kOk);
   std::string streamed(static_cast<std::size_t>(std::ftell(out)), '\0');
   std::rewind(out);
-  if (std::fread(streamed.data(), 1, streamed.size(), out) != streamed.size()) std::abort();
+  check(std::fread(streamed.data(), 1, streamed.size(), out) == streamed.size());
   std::fclose(in);
   std::fclose(out);
-  if (streamed != whole_conversion(text, text_size)) std::abort();
+  check(streamed == whole_conversion(text, text_size));
   return 0;
 }

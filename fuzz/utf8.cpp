@@ -1,5 +1,7 @@
 // Any bytes through every UTF-8 primitive: no read past the terminator, no
 // write outside the destination, and the walks agree with each other.
+#include "fuzz_support.h"
+
 #include <kilnutil/unicode.h>
 
 #include <cstdint>
@@ -7,13 +9,7 @@
 #include <cstring>
 #include <memory>
 
-namespace {
-
-void check(bool condition) {
-  if (!condition) std::abort();
-}
-
-}  // namespace
+using fuzz_support::check;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   // An exactly sized copy with its NUL, so any read past it is caught.

@@ -33,7 +33,7 @@ typedef struct KilnTm {
  * `negative` holds a magnitude. */
 #ifdef __cplusplus
 struct KILNUTIL_API stTime {
-  int negative;        /* 1 when the duration is negative */
+  int negative; /* 1 when the duration is negative */
   unsigned int days;
   int hours;           /* 0..23 */
   int minutes;         /* 0..59 */
@@ -139,11 +139,22 @@ KILNUTIL_API bool calendar_round_to_inc(double* value, double increment_days, in
 /* The tick value is drawn at: the nearest multiple of increment (or the
  * calendar rounding) when within tolerance percent, else value itself. */
 KILNUTIL_API double KILNUTIL_chk_round_tick(double value, double increment, int tolerance, bool calendar);
-/* Date-editing operations 0..11 on *value (see the library's documentation:
- * 0 add, 1 calendar step, 2 divide an increment, 3 fractional calendar step,
- * 4 snap an increment, 5 query, 6 weekday, 7 day, weekday or date text,
- * 9 and 10 move to a day of month, 11 test for 29 February). Unknown
- * operations return 0 and change nothing. */
+/* Date-editing operations on *value. Unknown operations (8, 12 and above)
+ * return 0 and change nothing. */
+#define KILNUTIL_DATEINC_ADD 0              /* adds the argument */
+#define KILNUTIL_DATEINC_CALENDAR_STEP 1    /* whole calendar units */
+#define KILNUTIL_DATEINC_DIVIDE_INCREMENT 2 /* divides an increment */
+#define KILNUTIL_DATEINC_FRACTIONAL_STEP 3  /* fractional calendar step */
+#define KILNUTIL_DATEINC_SNAP_INCREMENT 4   /* snaps an increment */
+#define KILNUTIL_DATEINC_QUERY 5            /* answers a query (below) */
+#define KILNUTIL_DATEINC_MOVE_TO_WEEKDAY 6
+#define KILNUTIL_DATEINC_SET_FROM_TEXT 7 /* day, weekday or date text */
+#define KILNUTIL_DATEINC_MOVE_TO_DAY_ROUNDING_AT_17 9
+#define KILNUTIL_DATEINC_MOVE_TO_FIRST_ROUNDING_AT_15 10
+#define KILNUTIL_DATEINC_IS_LEAP_DAY 11 /* tests for 29 February */
+/* The questions of KILNUTIL_DATEINC_QUERY, in the low 16 bits of *inout. */
+#define KILNUTIL_DATEINC_QUERY_DAY_OF_WEEK 16u
+#define KILNUTIL_DATEINC_QUERY_DAY_OF_MONTH 32u
 KILNUTIL_API int KILNUTIL_dateinc(double* value, double* argument, unsigned short operation, unsigned int* inout);
 
 /* ---- Date text. */

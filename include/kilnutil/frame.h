@@ -24,8 +24,8 @@ public:
   virtual int host_operation3() = 0;
   virtual int host_operation4() = 0;
   virtual int host_operation5() = 0;
-  virtual int enable_gui(int flag) = 0;  /* sixth */
-  virtual int is_gui_enabled() = 0;      /* seventh */
+  virtual int enable_gui(int flag) = 0; /* sixth */
+  virtual int is_gui_enabled() = 0;     /* seventh */
 
 protected:
   ~KilnHostAccess() = default;
@@ -46,7 +46,8 @@ KILNUTIL_API int is_missing_value(double v);
 KILNUTIL_API unsigned int set_code_page_for_string_process(unsigned int cp); /* exchange */
 /* 0..4 give 0xFFFFFFFF, 1252, 1252, 932, 936; any other index 0xFFFFFFFF. */
 KILNUTIL_API unsigned int get_code_page_of_lang_index(int index);
-KILNUTIL_API unsigned int KILNUTIL_set_codepage_for_converting_MBCS_to_UNICODE_on_loading(unsigned int cp); /* exchange */
+KILNUTIL_API unsigned int KILNUTIL_set_codepage_for_converting_MBCS_to_UNICODE_on_loading(
+    unsigned int cp); /* exchange */
 KILNUTIL_API unsigned int KILNUTIL_get_codepage_for_converting_MBCS_to_UNICODE_on_loading(void);
 /* use_system 0 and a string-process code page set: 1 when 1200 <= cp < 1255.
  * Otherwise 1 when (ANSI code page - 1200) is below 55, unsigned. */
@@ -103,7 +104,7 @@ KILNUTIL_API unsigned int KILNUTIL_IsCheckPrinterPage(void);
 KILNUTIL_API void KILNUTIL_SetVelaCStrCharOffset(int v); /* stores (v > 0) */
 KILNUTIL_API unsigned char KILNUTIL_IsVelaCStrCharOffset(void);
 /* get non-zero: return current; otherwise store v and return the previous value. */
-KILNUTIL_API unsigned int KILNUTIL_ImgDefJPGqualityLevel(int get, unsigned int v);        /* default 95 */
+KILNUTIL_API unsigned int KILNUTIL_ImgDefJPGqualityLevel(int get, unsigned int v);          /* default 95 */
 KILNUTIL_API unsigned int KILNUTIL_ImgGrObjDefPNGcompressionLevel(int get, unsigned int v); /* default 4 */
 /* set 0: return current; otherwise store v and return the previous value. */
 KILNUTIL_API unsigned int KILNUTIL_disabling_get_localized_PDS(int set, unsigned int v);

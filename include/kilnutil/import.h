@@ -100,11 +100,11 @@ KILNUTIL_API int KILNUTIL_GetBoundingRange(const CellRange* ranges, int count, C
  * texts of both references into the outputs (each may be null; outputs that
  * the text does not set are left empty). The text is modified while parsing
  * and restored on success. 1 if parsed, else 0. */
-KILNUTIL_API int KILNUTIL_parse_one_range_string(char* text, char* book, char* sheet,
-                                                 char* row1, char* col1, char* row2, char* col2);
+KILNUTIL_API int KILNUTIL_parse_one_range_string(char* text, char* book, char* sheet, char* row1, char* col1,
+                                                 char* row2, char* col2);
 /* The same function under its second name. */
-KILNUTIL_API int parse_data_range_str(char* text, char* book, char* sheet,
-                                      char* row1, char* col1, char* row2, char* col2);
+KILNUTIL_API int parse_data_range_str(char* text, char* book, char* sheet, char* row1, char* col1, char* row2,
+                                      char* col2);
 
 /* ---- Block transpose: the rows x cols block of elem_size-byte elements
  * (row-major) becomes its cols x rows transpose in place. 0 done, 1 when the
@@ -123,11 +123,11 @@ KILNUTIL_API int KILNUTIL_GetBitFieldIndexOffset(int y, int x, int width, unsign
 KILNUTIL_API int KILNUTIL_GetBitFieldIndexOffset_BITMAP(int y, int x, int stride, unsigned char* bit);
 /* Sets the cell's bit when the low 32 bits of value are non-zero, else clears
  * it. Returns 1. */
-KILNUTIL_API int KILNUTIL_SetBitField(KILNUTIL_BitFieldIndexFunc index, unsigned char* field,
-                                      int y, int x, int width_or_stride, long long value);
+KILNUTIL_API int KILNUTIL_SetBitField(KILNUTIL_BitFieldIndexFunc index, unsigned char* field, int y, int x,
+                                      int width_or_stride, long long value);
 /* 1 when the cell's bit is set. */
-KILNUTIL_API int KILNUTIL_TestBitField(KILNUTIL_BitFieldIndexFunc index, const unsigned char* field,
-                                       int y, int x, int width_or_stride);
+KILNUTIL_API int KILNUTIL_TestBitField(KILNUTIL_BitFieldIndexFunc index, const unsigned char* field, int y, int x,
+                                       int width_or_stride);
 
 /* ---- Partial import: which rows and columns of a file to read.
  *
@@ -158,12 +158,12 @@ typedef struct ImportFilesPartialPart {
 
 /* The partial-import options of an import. */
 typedef struct tagImpFilePartialOpt {
-  int enabled;                                /* 0: read everything */
-  unsigned int flags;                         /* the host's other import options; not read here */
-  char rows[KILNUTIL_PARTIAL_REQUEST_SIZE];   /* row request, NUL-terminated */
-  char cols[KILNUTIL_PARTIAL_REQUEST_SIZE];   /* column request, NUL-terminated */
-  int row_shift;                              /* header rows ahead of the data rows */
-  int col_shift;                              /* leading columns ahead of the data columns */
+  int enabled;                              /* 0: read everything */
+  unsigned int flags;                       /* the host's other import options; not read here */
+  char rows[KILNUTIL_PARTIAL_REQUEST_SIZE]; /* row request, NUL-terminated */
+  char cols[KILNUTIL_PARTIAL_REQUEST_SIZE]; /* column request, NUL-terminated */
+  int row_shift;                            /* header rows ahead of the data rows */
+  int col_shift;                            /* leading columns ahead of the data columns */
 } tagImpFilePartialOpt;
 
 #ifdef __cplusplus
@@ -185,14 +185,13 @@ KILNUTIL_API bool parse_one_partial(const char* request, ImportFilesPartialPart*
 KILNUTIL_API bool skip_str_to_partial(const char* skip, ImportFilesPartialPart* part, const char* selection);
 /* The skip-related values of one part (see ImportFilesPartialParts::IsSpecialSkip).
  * Each output may be null; name receives at most 13 bytes. */
-KILNUTIL_API char GetSpecialSkip(const ImportFilesPartialPart* part, int* skip_at_least_one, int* begin,
-                                 int* end, int* count, int total, int* skip, char* name,
-                                 int* special_count, char* special_unit);
+KILNUTIL_API char GetSpecialSkip(const ImportFilesPartialPart* part, int* skip_at_least_one, int* begin, int* end,
+                                 int* count, int total, int* skip, char* name, int* special_count, char* special_unit);
 
 KILNUTIL_END_C
 
 #ifdef __cplusplus
-#include <vector>
+#  include <vector>
 
 /* The parts of one dimension (rows or columns), in the order written. */
 class KILNUTIL_API ImportFilesPartialParts {
@@ -251,10 +250,10 @@ public:
   bool GetSingleRange(ImportFilesPartialPart* part, bool one_based) const;
   /* Exactly one part: its skip values (an open end becomes total - 1); the
    * result is its skip unit letter. Otherwise 0 and an empty name. */
-  char IsSpecialSkip(int& skip_at_least_one, int& begin, int& end, int& count, int total, int& skip,
-                     char* name, int& special_count, char& special_unit) const;
-  char IsSpecialSkip(int* skip_at_least_one, int* begin, int* end, int* count, int total, int* skip,
-                     char* name, int* special_count, char* special_unit) const;
+  char IsSpecialSkip(int& skip_at_least_one, int& begin, int& end, int& count, int total, int& skip, char* name,
+                     int& special_count, char& special_unit) const;
+  char IsSpecialSkip(int* skip_at_least_one, int* begin, int* end, int* count, int total, int* skip, char* name,
+                     int* special_count, char* special_unit) const;
   /* The first part's special unit when its name is "yave", else 0. */
   char GetAveAcrossYears() const;
   static bool IsAveAcrossYears(const char* name);

@@ -27,12 +27,23 @@ KILNUTIL_API unsigned char KILNUTIL_test_char(int c);
 KILNUTIL_API int KILNUTIL_isspace(int c);
 /* 1 for the double quote, 2 for the single quote, else 0. */
 KILNUTIL_API int KILNUTIL_is_quote_char(int c);
+/* The pair class of an opener: 1 "(", 2 "{", 3 the double quote, 4 "[";
+ * else 0. The class indexes the closer table ")", "}", double quote, "]". */
+KILNUTIL_API int is_begin_quote(int c);
+/* The pair class of a closer: 1 ")", 2 "}", 3 the double quote, 4 "]"; else 0. */
+KILNUTIL_API int is_end_quote(int c);
 
 /* ---- General character search. Mode bit 0 clear: c outside brackets and
  * double-quoted sections ("(" ")", "{" "}", "[" "]", one kind at a time).
  * Bit 0: plain search; with bit 1 the last occurrence. 0x4: plain, after the
  * run of c that starts the text. 0x10: plain, within the text trimmed of
  * white space at both ends. 0x20: c's other case matches too. */
+#define KILNUTIL_STRCHR_EXPOSED 0x0u
+#define KILNUTIL_STRCHR_PLAIN 0x1u
+#define KILNUTIL_STRCHR_BACKWARD 0x2u
+#define KILNUTIL_STRCHR_AFTER_LEADING_RUN 0x4u
+#define KILNUTIL_STRCHR_TRIMMED 0x10u
+#define KILNUTIL_STRCHR_EITHER_CASE 0x20u
 KILNUTIL_API char* KILNUTIL_strchr(const char* text, int c, unsigned int mode);
 /* Last c at or before from (from null: anywhere); plain. */
 KILNUTIL_API char* KILNUTIL_strchr_reverse(const char* text, int c, const char* from);
@@ -48,6 +59,18 @@ KILNUTIL_API char* KILNUTIL_strchr_reverse(const char* text, int c, const char* 
  * or the first quoted section or number the last search skipped). target -1:
  * *status = the escape switch, then escapes are off; target -2: the escape
  * switch = *status (which the call has set to 0 first). */
+#define KILNUTIL_EXPOSED_ANY_SPACE 0                   /* target */
+#define KILNUTIL_EXPOSED_SAVE_AND_DISABLE_ESCAPES (-1) /* target of a control call */
+#define KILNUTIL_EXPOSED_RESTORE_ESCAPES (-2)          /* target of a control call */
+#define KILNUTIL_EXPOSED_KEEP_NUMBERS 0x40u
+#define KILNUTIL_EXPOSED_CASE_BLIND 0x80u
+#define KILNUTIL_EXPOSED_SINGLE_QUOTE_FIRST_ONLY 0x100u
+#define KILNUTIL_EXPOSED_NO_PARENTHESES 0x1000000u
+#define KILNUTIL_EXPOSED_NO_BRACES 0x2000000u
+#define KILNUTIL_EXPOSED_NO_SQUARE_BRACKETS 0x4000000u
+#define KILNUTIL_EXPOSED_NO_ANGLE_BRACKETS 0x8000000u
+#define KILNUTIL_EXPOSED_NO_SINGLE_QUOTE 0x10000000u
+#define KILNUTIL_EXPOSED_NO_DOUBLE_QUOTE 0x20000000u
 KILNUTIL_API char* KILNUTIL_exposed_char_pos_ex_loc_ex(const char* text, int target, unsigned int flags, int* status,
                                                        int loc, const char* end);
 /* The last exposed target (or the hit at which a quoted section was left open). */
@@ -94,8 +117,8 @@ KILNUTIL_API char* KILNUTIL_text_inside_remove_quotes_even_mismatch(char* text, 
 /* ---- Quoted term: copies the next sep-separated term into dest (at most
  * size - 1 bytes; size -1: the text's length), honouring quote (doubled
  * quotes are kept). Returns the position behind the next sep, or null. */
-KILNUTIL_API char* KILNUTIL_next_quoted_term_ex_ex(char* dest, const char* text, int sep, int quote,
-                                                   int drop_quotes, int size);
+KILNUTIL_API char* KILNUTIL_next_quoted_term_ex_ex(char* dest, const char* text, int sep, int quote, int drop_quotes,
+                                                   int size);
 KILNUTIL_API char* KILNUTIL_next_quoted_term(char* dest, const char* text, int sep);
 
 /* ---- Tokens and words. Destination buffers must hold the text's length + 1. */
@@ -150,7 +173,6 @@ KILNUTIL_API int KILNUTIL_token_count_no_chk_inside(const char* text, int sep);
 
 KILNUTIL_END_C
 
-
 /* ---- Narrow (UTF-8, A) and wide (UTF-16, W) token functions of text import.
  * Each forwards to the KILNUTILT_ template of the same job (below). */
 KILNUTIL_BEGIN_C
@@ -183,6 +205,10 @@ KILNUTIL_API KILN_WCHAR* KILNUTIL_NextTokenW(KILN_WCHAR* dest, const KILN_WCHAR*
  * the trimmed tokens when list is given. Separators + 1, or the separators
  * found when the limit was reached. The narrow form is
  * KILNUTIL_separate_str_to_token_list. */
+#define KILNUTIL_TOKENS_SEP_COMMA 0          /* sep */
+#define KILNUTIL_TOKENS_SEP_WHITE_SPACE (-1) /* sep */
+#define KILNUTIL_TOKENS_NO_LIMIT (-1)        /* max; the single quote is ordinary */
+#define KILNUTIL_TOKENS_LIMIT_60000 60000    /* max; the single quote is ordinary */
 KILNUTIL_API int KILNUTIL_SeparateStrToTokensA(char* text, char** list, int sep, int max);
 KILNUTIL_API int KILNUTIL_SeparateStrToTokensW(KILN_WCHAR* text, KILN_WCHAR** list, int sep, int max);
 /* Tokens in the first line (the text is restored). */
@@ -205,26 +231,39 @@ KILNUTIL_END_C
 #ifdef __cplusplus
 /* The templates behind the A and W functions, exported for char (UTF-8) and
  * KILN_WCHAR (UTF-16) text. */
-template <class Ch> KILNUTIL_API Ch* KILNUTILT_TrimLeft(Ch* text);
-template <class Ch> KILNUTIL_API Ch* KILNUTILT_TrimRight(Ch* text);
-template <class Ch> KILNUTIL_API Ch* KILNUTILT_TrimBoth(Ch* text);
-template <class Ch> KILNUTIL_API Ch* KILNUTILT_ExposedCharPos(const Ch* text, int target, unsigned int flags, int* status);
-template <class Ch> KILNUTIL_API Ch* KILNUTILT_StrChar(const Ch* text, int c, int mode);
-template <class Ch> KILNUTIL_API Ch* KILNUTILT_NextToken(Ch* dest, const Ch* text, const Ch* separators, int size);
-template <class Ch> KILNUTIL_API int KILNUTILT_SeparateStrToTokenList(Ch* text, Ch** list, int sep, int max);
-template <class Ch> KILNUTIL_API int KILNUTILT_FirstLineTokens(Ch* text, int sep);
-template <class Ch> KILNUTIL_API int KILNUTILT_LineCount(const Ch* text);
+template <class Ch>
+KILNUTIL_API Ch* KILNUTILT_TrimLeft(Ch* text);
+template <class Ch>
+KILNUTIL_API Ch* KILNUTILT_TrimRight(Ch* text);
+template <class Ch>
+KILNUTIL_API Ch* KILNUTILT_TrimBoth(Ch* text);
+template <class Ch>
+KILNUTIL_API Ch* KILNUTILT_ExposedCharPos(const Ch* text, int target, unsigned int flags, int* status);
+template <class Ch>
+KILNUTIL_API Ch* KILNUTILT_StrChar(const Ch* text, int c, int mode);
+template <class Ch>
+KILNUTIL_API Ch* KILNUTILT_NextToken(Ch* dest, const Ch* text, const Ch* separators, int size);
+template <class Ch>
+KILNUTIL_API int KILNUTILT_SeparateStrToTokenList(Ch* text, Ch** list, int sep, int max);
+template <class Ch>
+KILNUTIL_API int KILNUTILT_FirstLineTokens(Ch* text, int sep);
+template <class Ch>
+KILNUTIL_API int KILNUTILT_LineCount(const Ch* text);
 /* Tab-separated fields in the first line (only tabs count). */
-template <class Ch> KILNUTIL_API int KILNUTILT_WordsInLine(const Ch* text);
-template <class Ch> KILNUTIL_API int KILNUTILT_num_words_in_lines(const Ch* text, int lines);
+template <class Ch>
+KILNUTIL_API int KILNUTILT_WordsInLine(const Ch* text);
+template <class Ch>
+KILNUTIL_API int KILNUTILT_num_words_in_lines(const Ch* text, int lines);
 /* The token count the first lines lines agree on (tab: the largest), or -1
  * (lines below 1; not tab: the text ends before the lines do), -2 (not tab: a
  * line with fewer than two tokens), -3 (not tab: lines disagree). A count that
  * reaches enough (above 0) is returned at once. */
-template <class Ch> KILNUTIL_API int KILNUTILT_CountConsistenTokens(Ch* text, int sep, int enough, int lines);
+template <class Ch>
+KILNUTIL_API int KILNUTILT_CountConsistenTokens(Ch* text, int sep, int enough, int lines);
 /* The column separator of delimited text: 9 (tab), 44 (",") or 59 (";"), or
  * -1 (lines below 1 checks 3 lines). */
-template <class Ch> KILNUTIL_API int KILNUTILT_FindSeparator(Ch* text, int enough, int lines);
+template <class Ch>
+KILNUTIL_API int KILNUTILT_FindSeparator(Ch* text, int enough, int lines);
 #endif /* __cplusplus */
 
 #endif /* KILNUTIL_TEXT_H */

@@ -88,18 +88,18 @@ typedef struct MbcsToUTF8CallbackBuffer {
 
 /* State of one text file opened as UTF-8 (INIT, BEGIN, END). */
 typedef struct TextFileToUTF8Context {
-  char path[1040];             /* UTF-8 path of the file; set by the caller */
-  KILN_WCHAR temp_path[520];   /* the converted copy; empty when none */
-  int binary_reopen;           /* reopen the copy with "rb" */
-  int write_mark;              /* start the copy with EF BB BF */
-  int keep_mark;               /* unconverted: leave the stream at offset 0 */
-  int reopen_as_utf8;          /* unconverted: reopen with "rt, ccs=UTF-8" */
-  int utf8_text_mode;          /* copy reopened "rt, ccs=UTF-8" (else "rt") unless binary */
-  int guess;                   /* detection may guess beyond the mark */
-  unsigned char mark_size;     /* set by BEGIN: mark bytes at the stream's start */
-  FILE* converted_stream;      /* set by BEGIN: the stream on the copy */
-  const char* fallback_mode;   /* reopen mode when conversion fails; required */
-  int no_conversion;           /* never convert; only skip or keep the mark */
+  char path[1040];           /* UTF-8 path of the file; set by the caller */
+  KILN_WCHAR temp_path[520]; /* the converted copy; empty when none */
+  int binary_reopen;         /* reopen the copy with "rb" */
+  int write_mark;            /* start the copy with EF BB BF */
+  int keep_mark;             /* unconverted: leave the stream at offset 0 */
+  int reopen_as_utf8;        /* unconverted: reopen with "rt, ccs=UTF-8" */
+  int utf8_text_mode;        /* copy reopened "rt, ccs=UTF-8" (else "rt") unless binary */
+  int guess;                 /* detection may guess beyond the mark */
+  unsigned char mark_size;   /* set by BEGIN: mark bytes at the stream's start */
+  FILE* converted_stream;    /* set by BEGIN: the stream on the copy */
+  const char* fallback_mode; /* reopen mode when conversion fails; required */
+  int no_conversion;         /* never convert; only skip or keep the mark */
 } TextFileToUTF8Context;
 
 /* ---- Buffer conversions (a source length of -1: NUL-terminated). */
@@ -116,7 +116,8 @@ KILNUTIL_API int KILNUTIL_UNICODE_UTF16_to_UTF8_buffers(char* dst, int dst_size,
 /* UTF-8 to UTF-16: units converted minus one; 0 for an empty source; -1 when
  * it does not fit or fails. With an explicit length a zero unit may be stored
  * at index dst_units: give one spare unit. */
-KILNUTIL_API int KILNUTIL_UNICODE_UTF8_to_UTF16_buffers_ex(KILN_WCHAR* dst, int dst_units, const char* src, int src_len);
+KILNUTIL_API int KILNUTIL_UNICODE_UTF8_to_UTF16_buffers_ex(KILN_WCHAR* dst, int dst_units, const char* src,
+                                                           int src_len);
 /* Swaps the bytes of every unit up to the zero unit, in place; returns 1. */
 KILNUTIL_API int KILNUTIL_UNICODE_UTF16LE_to_UTF16BE(KILN_WCHAR* text);
 /* Converts the record's MBCS text to UTF-8 in its buffer, growing it through
@@ -148,7 +149,11 @@ KILNUTIL_API int KILNUTIL_ConvertUNICODEtoMBCS(const char* src_path, const char*
 /* A file handle of KILNUTIL_UTF8_CreateFile: the file descriptor (close it
  * with close()); INVALID_HANDLE_VALUE on failure. */
 typedef void* HANDLE;
-#  define INVALID_HANDLE_VALUE ((HANDLE)(long)-1)
+#  ifdef __cplusplus
+#    define INVALID_HANDLE_VALUE (reinterpret_cast<HANDLE>(static_cast<long>(-1)))
+#  else
+#    define INVALID_HANDLE_VALUE ((HANDLE)(long)-1)
+#  endif
 #endif
 /* fopen of a UTF-8 path; text modes ("rt", "rt, ccs=UTF-8") open as "r". */
 KILNUTIL_API FILE* KILNUTIL_UTF8_fopen(const char* path, const char* mode);
@@ -187,7 +192,17 @@ KILNUTIL_API void KILNUTIL_UNICODE_open_text_file_to_UTF8_END(FILE* stream, Text
 
 /* ---- Whole-file rewrites: the new content goes to a temporary file in the
  * same folder, which replaces the original only when completely written; on
- * any failure the original is left as it was. */
+ * any failure the original is left as it was. Failure codes: */
+#define KILNUTIL_REWRITE_SHORT_WRITE (-321)
+#define KILNUTIL_REWRITE_CANT_WRITE (-322)
+#define KILNUTIL_REWRITE_NOT_UTF16_CONVERTIBLE (-323)
+#define KILNUTIL_REWRITE_NO_MARK (-324)
+#define KILNUTIL_REWRITE_SHORT_READ (-325)
+#define KILNUTIL_REWRITE_NO_MEMORY_FOR_TEXT (-326)
+#define KILNUTIL_REWRITE_NO_MEMORY_FOR_FILE (-327)
+#define KILNUTIL_REWRITE_EMPTY_FILE (-328)
+#define KILNUTIL_REWRITE_CANT_OPEN (-329)
+#define KILNUTIL_REWRITE_CODE_PAGE_FAILS (-330)
 /* 2 mark added; 1 ASCII only with only_if_non_ascii set, or the file can't be
  * rewritten; 0 mark present; -321 short write; -325 short read; -327 no
  * memory; -328 empty; -329 can't be opened. */
@@ -249,8 +264,8 @@ KILNUTIL_END_C
  * can give the last ones back. The library's character sources implement it. */
 class KilnByteSource {
 public:
-  virtual int next_byte() = 0;               /* 0..255, or -1 at the end */
-  virtual int push_back_byte(int byte) = 0;  /* byte, or -1 when refused */
+  virtual int next_byte() = 0;              /* 0..255, or -1 at the end */
+  virtual int push_back_byte(int byte) = 0; /* byte, or -1 when refused */
 
 protected:
   ~KilnByteSource() = default;

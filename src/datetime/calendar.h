@@ -9,8 +9,8 @@ namespace kiln::datetime {
 // Cumulative days before each month of a common year (and 365 at the end).
 inline constexpr int kCumulativeDays[13] = {0, 31, 59, 90, 120, 151, 181, 212, 243, 273, 304, 334, 365};
 
-inline constexpr int kFirstDay = -657435;   // 0099-12-31
-inline constexpr int kLastDay = 2958465;    // 9999-12-31
+inline constexpr int kFirstDay = -657435;              // 0099-12-31
+inline constexpr int kLastDay = 2958465;               // 9999-12-31
 inline constexpr long kAbsoluteDayOfDayZero = 693959;  // 1899-12-30 counted from 0000-01-01
 inline constexpr double kSecondsPerDay = 86400.0;
 inline constexpr int kMaxYear = 9999;
@@ -51,6 +51,8 @@ int fields_to_value(const CalendarFields& fields, double offset, double* value);
 bool value_to_fields(double value, int decimals, CalendarFields* fields);
 
 // The serial day number (days since 1899-12-30) of a valid date.
-inline long serial_day(int year, int month1, int day) { return absolute_day(year, month1, day) - kAbsoluteDayOfDayZero; }
+inline long serial_day(int year, int month1, int day) {
+  return absolute_day(year, month1, day) - kAbsoluteDayOfDayZero;
+}
 
 }  // namespace kiln::datetime

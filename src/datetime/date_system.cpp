@@ -1,15 +1,15 @@
 // Date systems: which day is day zero of a date value. The active system's
-// offset is one process-wide double, set up on first use and changed only by
+// offset is one process-wide double, changed only by
 // DateTime_DateSys(1, code).
 #include "datetime/date_system.h"
 
 #include "datetime/calendar.h"
+#include "frame/relaxed.h"
 #include "platform/clock.h"
+#include "unicode/ascii_case.h"
 
 #include <kilnutil/datetime.h>
 #include <kilnutil/numeric.h>
-
-#include <strings.h>
 
 namespace kiln::datetime {
 namespace {
@@ -25,10 +25,7 @@ constexpr int kLastYearCode = 2099;
 constexpr double kDefaultOffset = 2415018.0;
 constexpr double kSixPm = 0.75;
 
-double& active_offset_storage() {
-  static double offset = kDefaultOffset;  // initialised once, thread-safely
-  return offset;
-}
+frame::Relaxed<double> g_active_offset{kDefaultOffset};
 
 // Today 18:00 local time is 1.0: days since 18:00 of the day before.
 double six_pm_offset() {
@@ -47,15 +44,15 @@ double offset_of_code(int code) {
     default: break;
   }
   if (is_year_code(code)) return -static_cast<double>(serial_day(code, 1, 1));
-  return active_offset_storage();
+  return g_active_offset.load();
 }
 
 int code_of_name(const char* name) {
-  if (name == nullptr || *name == '\0' || strcasecmp(name, "Active") == 0) return kActiveCode;
-  if (strcasecmp(name, "Vela-JulianDate") == 0) return kDefaultCode;
-  if (strcasecmp(name, "JulianDate") == 0) return kAstronomicalCode;
-  if (strcasecmp(name, "6PM") == 0) return kSixPmCode;
-  if (strcasecmp(name, "1899-12-30") == 0) return kSerialCode;
+  if (name == nullptr || *name == '\0' || unicode::equal_ignoring_ascii_case(name, "Active")) return kActiveCode;
+  if (unicode::equal_ignoring_ascii_case(name, "Vela-JulianDate")) return kDefaultCode;
+  if (unicode::equal_ignoring_ascii_case(name, "JulianDate")) return kAstronomicalCode;
+  if (unicode::equal_ignoring_ascii_case(name, "6PM")) return kSixPmCode;
+  if (unicode::equal_ignoring_ascii_case(name, "1899-12-30")) return kSerialCode;
   int year = 0;
   if ((name[0] == '1' || name[0] == '2') && KILNUTIL_cvtstr2int(name, &year) && is_year_code(year)) return year;
   return kUnknownCode;
@@ -63,7 +60,7 @@ int code_of_name(const char* name) {
 
 }  // namespace
 
-double active_offset() { return active_offset_storage(); }
+double active_offset() { return g_active_offset.load(); }
 
 }  // namespace kiln::datetime
 
@@ -71,7 +68,11 @@ using namespace kiln::datetime;
 
 double DateTime_DateSys(int mode, int code) {
   if (mode == 0 && code >= 0) return offset_of_code(code);
-  if (mode == 1) return active_offset_storage() = offset_of_code(code);
+  if (mode == 1) {
+    const double offset = offset_of_code(code);
+    g_active_offset.store(offset);
+    return offset;
+  }
   return active_offset();
 }
 

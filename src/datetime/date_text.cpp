@@ -2,11 +2,11 @@
 #include "datetime/date_text.h"
 
 #include "datetime/calendar.h"
+#include "unicode/ascii_case.h"
 
 #include <kilnutil/datetime.h>
 
 #include <cstring>
-#include <strings.h>
 
 namespace kiln::datetime {
 namespace {
@@ -64,7 +64,8 @@ int weekday_index(const char* text) {
   while (length > 0 && is_blank(text[length - 1])) --length;
   for (int day = 0; day < 7; ++day) {
     const std::size_t name_length = std::strlen(kWeekdayNames[day]);
-    if ((length == name_length || length == kAbbreviationLength) && strncasecmp(text, kWeekdayNames[day], length) == 0) {
+    if ((length == name_length || length == kAbbreviationLength) &&
+        unicode::equal_ignoring_ascii_case(text, kWeekdayNames[day], length)) {
       return day;
     }
   }
@@ -86,6 +87,7 @@ double KILNUTIL_str2date(const char* text) {
   }
   while (is_blank(*p)) ++p;
   double value = 0.0;
-  if (*p != '\0' || f.year < 100 || fields_to_value(f, kActiveSystem, &value) != kFieldsConverted) return KILNUTIL_NANUM;
+  if (*p != '\0' || f.year < 100 || fields_to_value(f, kActiveSystem, &value) != kFieldsConverted)
+    return KILNUTIL_NANUM;
   return value;
 }

@@ -22,21 +22,21 @@ constexpr double kWholeTolerance = 1e-5;
 constexpr double kLargestStep = 1e9;
 
 enum Operation : unsigned short {
-  kAdd = 0,
-  kCalendarStep = 1,
-  kDivideIncrement = 2,
-  kFractionalStep = 3,
-  kSnapIncrement = 4,
-  kQuery = 5,
-  kMoveToWeekday = 6,
-  kSetFromText = 7,
-  kMoveToDayRoundingAt17 = 9,
-  kMoveToFirstRoundingAt15 = 10,
-  kIsLeapDay = 11,
+  kAdd = KILNUTIL_DATEINC_ADD,
+  kCalendarStep = KILNUTIL_DATEINC_CALENDAR_STEP,
+  kDivideIncrement = KILNUTIL_DATEINC_DIVIDE_INCREMENT,
+  kFractionalStep = KILNUTIL_DATEINC_FRACTIONAL_STEP,
+  kSnapIncrement = KILNUTIL_DATEINC_SNAP_INCREMENT,
+  kQuery = KILNUTIL_DATEINC_QUERY,
+  kMoveToWeekday = KILNUTIL_DATEINC_MOVE_TO_WEEKDAY,
+  kSetFromText = KILNUTIL_DATEINC_SET_FROM_TEXT,
+  kMoveToDayRoundingAt17 = KILNUTIL_DATEINC_MOVE_TO_DAY_ROUNDING_AT_17,
+  kMoveToFirstRoundingAt15 = KILNUTIL_DATEINC_MOVE_TO_FIRST_ROUNDING_AT_15,
+  kIsLeapDay = KILNUTIL_DATEINC_IS_LEAP_DAY,
 };
 
-constexpr unsigned kQueryDayOfWeek = 16;
-constexpr unsigned kQueryDayOfMonth = 32;
+constexpr unsigned kQueryDayOfWeek = KILNUTIL_DATEINC_QUERY_DAY_OF_WEEK;
+constexpr unsigned kQueryDayOfMonth = KILNUTIL_DATEINC_QUERY_DAY_OF_MONTH;
 
 long long floor_div(long long a, long long b) { return a / b - ((a % b != 0) && ((a < 0) != (b < 0))); }
 
@@ -179,9 +179,9 @@ struct SnapTarget {
 };
 
 constexpr SnapTarget kSnapTargets[] = {
-    {604800.0, 86400.0, 16},    // a week
-    {2678400.0, 604800.0, 32},  // 31 days
-    {7862400.0, 1209600.0, 64}, // 91 days
+    {604800.0, 86400.0, 16},     // a week
+    {2678400.0, 604800.0, 32},   // 31 days
+    {7862400.0, 1209600.0, 64},  // 91 days
 };
 
 // An increment in days snapped to a week, 31 days or 91 days when near one.
@@ -208,7 +208,7 @@ int query(const double* value, double* argument, const unsigned* inout) {
   if ((code == kQueryDayOfWeek || code == kQueryDayOfMonth) && decompose(*value, &f)) {
     answer = code == kQueryDayOfWeek ? record_weekday(f) : f.day;
   }
-  *reinterpret_cast<int*>(argument) = answer;
+  std::memcpy(argument, &answer, sizeof answer);  // the int in the slot's first bytes
   return static_cast<int>(code);
 }
 

@@ -3,6 +3,7 @@
 #include "datetime/duration.h"
 
 #include "datetime/calendar.h"
+#include "frame/relaxed.h"
 
 #include <kilnutil/datetime.h>
 
@@ -12,7 +13,7 @@
 namespace kiln::datetime {
 namespace {
 
-bool g_keep_rounded_midnight = false;
+kiln::frame::Relaxed<bool> g_keep_rounded_midnight{false};
 
 // A quarter of a second, in days: differences this close to a whole number
 // are that number.
@@ -59,8 +60,8 @@ int difference_in(const SYSTEMTIME* first, const SYSTEMTIME* second, double unit
 
 }  // namespace
 
-bool keep_rounded_midnight_as_2400() { return g_keep_rounded_midnight; }
-void set_keep_rounded_midnight_as_2400(bool keep) { g_keep_rounded_midnight = keep; }
+bool keep_rounded_midnight_as_2400() { return g_keep_rounded_midnight.load(); }
+void set_keep_rounded_midnight_as_2400(bool keep) { g_keep_rounded_midnight.store(keep); }
 
 }  // namespace kiln::datetime
 

@@ -19,12 +19,12 @@ constexpr CalendarUnitSpan kCalendarUnits[] = {
 };
 
 constexpr double kFixedUnitDays[] = {
-    0.0,                // no unit
-    1.0 / 86400.0,      // second
-    1.0 / 1440.0,       // minute
-    1.0 / 24.0,         // hour
-    1.0,                // day
-    7.0,                // week
+    0.0,            // no unit
+    1.0 / 86400.0,  // second
+    1.0 / 1440.0,   // minute
+    1.0 / 24.0,     // hour
+    1.0,            // day
+    7.0,            // week
 };
 
 }  // namespace

@@ -29,7 +29,7 @@ char* separate_path(const char* path, char* folder, char* name, char* extension)
   const char* separator = last_separator(path);
   if (extension != nullptr) {
     const char* from = separator != nullptr ? separator : path;
-    if (const char* dot = text::strchr_search(from, '.', text::kStrCharPlain | text::kStrCharBackward))
+    if (const char* dot = text::search_char(from, '.', text::kStrCharPlain | text::kStrCharBackward))
       std::strcpy(extension, dot);
   }
   if (separator == nullptr) {

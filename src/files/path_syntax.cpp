@@ -42,7 +42,7 @@ bool is_valid_server_name(const std::string& name) {
 
 // The server name: up to the first exposed backslash, or at most 519 bytes.
 std::string server_name_of(const char* rest) {
-  if (const char* backslash = text::strchr_search(rest, '\\', 0)) {
+  if (const char* backslash = text::search_char(rest, '\\', 0)) {
     return std::string(rest, static_cast<size_t>(backslash - rest));
   }
   return std::string(rest, std::min(std::strlen(rest), kLongestServerName));

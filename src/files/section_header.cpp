@@ -23,7 +23,7 @@ const char* skip_leading_white_space(const char* p) {
 // The closing "]" (outside brackets and quotes); failing that, a "}" when a
 // ")" occurs after the "[" as well.
 const char* find_name_closer(const char* open) {
-  if (const char* bracket = text::strchr_search(open + 1, ']', 0)) return bracket;
+  if (const char* bracket = text::search_char(open + 1, ']', 0)) return bracket;
   if (std::strchr(open + 1, ')') == nullptr) return nullptr;
   return std::strchr(open + 1, '}');
 }

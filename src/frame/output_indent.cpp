@@ -35,7 +35,6 @@ extern "C" char* KILNUTIL_access_quill_output_indent(int op) {
       }
       return g_printable_indent;
     }
-    default:
-      return g_indent;
+    default: return g_indent;
   }
 }

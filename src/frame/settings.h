@@ -8,8 +8,8 @@ namespace kiln::frame {
 
 inline constexpr unsigned kCodePageNotSet = 0xFFFFFFFFu;
 
-unsigned string_process_code_page();          // kCodePageNotSet: the ANSI code page applies
-unsigned mbcs_loading_code_page();            // kCodePageNotSet when not set
+unsigned string_process_code_page();  // kCodePageNotSet: the ANSI code page applies
+unsigned mbcs_loading_code_page();    // kCodePageNotSet when not set
 unsigned real2str_internal_options();
 double real2str_zero_threshold();
 int double_to_string_digits();
@@ -17,13 +17,13 @@ unsigned str2real_use_atof();
 bool treat_non_finite_as_missing();
 bool test_char_nbsp();
 bool test_char_cntrl();
-unsigned char test_char_cntrl_mask();       // the stored mask itself
+unsigned char test_char_cntrl_mask();  // the stored mask itself
 bool strict_good_c_identifier();
 unsigned parenth_use_angle_brackets();
 unsigned short first_day_of_week();
 unsigned short first_week_of_year();
 unsigned detect_encoding_need_guess();
-int* default_char_used_flag();                // null when none is registered
+int* default_char_used_flag();  // null when none is registered
 
 // Stores the string-process code page of a language index (5 or more: index 0).
 void set_string_process_code_page_for_language(unsigned index);

@@ -1,7 +1,7 @@
 // Bit fields: one bit per cell of a grid, in the plain order (least
 // significant bit first along the cell index) or the monochrome-bitmap order
 // (most significant bit first within each row of bytes).
-#include "kilnutil/import.h"
+#include <kilnutil/import.h>
 
 #include <cstdint>
 #include <cstring>

@@ -1,7 +1,7 @@
 // In-place transpose of a block of fixed-size elements through a scratch copy
 // in global memory.
-#include "kilnutil/import.h"
-#include "kilnutil/platform.h"
+#include <kilnutil/import.h>
+#include <kilnutil/platform.h>
 
 #include <cstddef>
 #include <cstring>

@@ -1,7 +1,7 @@
 // Parts of a partial-import request: matching and selection clauses.
 #include "import/partial_part.h"
 
-#include "kilnutil/numeric.h"
+#include <kilnutil/numeric.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -83,7 +83,8 @@ char special_skip_of(const ImportFilesPartialPart& part, int total, const Specia
   if (out.count != nullptr) *out.count = part.count;
   if (out.skip_at_least_one != nullptr) *out.skip_at_least_one = part.skip < 1 ? 1 : part.skip;
   if (out.skip != nullptr) *out.skip = part.skip;
-  if (out.name != nullptr) copy_truncated(out.name, sizeof part.name, std::string_view(part.name, strnlen(part.name, sizeof part.name)));
+  if (out.name != nullptr)
+    copy_truncated(out.name, sizeof part.name, std::string_view(part.name, strnlen(part.name, sizeof part.name)));
   if (out.special_count != nullptr) *out.special_count = part.special_count;
   if (out.special_unit != nullptr) *out.special_unit = part.special_unit;
   return part.skip_unit;

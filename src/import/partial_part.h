@@ -2,7 +2,7 @@
 // it matches, how a selection clause fills it, and its skip values.
 #pragma once
 
-#include "kilnutil/import.h"
+#include <kilnutil/import.h>
 
 #include <string_view>
 

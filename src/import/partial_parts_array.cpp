@@ -1,5 +1,5 @@
 // The growable array of parts behind ImportFilesPartialParts.
-#include "kilnutil/import.h"
+#include <kilnutil/import.h>
 
 #include <vector>
 
@@ -30,6 +30,4 @@ void Parts::RemoveAll() { items_->clear(); }
 
 ImportFilesPartialPart& Parts::operator[](int index) { return items_->at(static_cast<std::size_t>(index)); }
 
-const ImportFilesPartialPart& Parts::operator[](int index) const {
-  return items_->at(static_cast<std::size_t>(index));
-}
+const ImportFilesPartialPart& Parts::operator[](int index) const { return items_->at(static_cast<std::size_t>(index)); }

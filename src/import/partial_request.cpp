@@ -5,12 +5,12 @@
 // GCC 12 reports a false "may be used uninitialized" inside the standard
 // library's regular-expression automaton when optimising with sanitizers.
 #if defined(__GNUC__) && !defined(__clang__)
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
+#  pragma GCC diagnostic push
+#  pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
 #endif
 #include <regex>
 #if defined(__GNUC__) && !defined(__clang__)
-#pragma GCC diagnostic pop
+#  pragma GCC diagnostic pop
 #endif
 
 #include <algorithm>
@@ -88,8 +88,8 @@ ImportFilesPartialPart part_of_item(const std::smatch& item, const std::string& 
   ImportFilesPartialPart part = new_part();
   part.include = item[kExclude].matched ? 0 : 1;
   part.begin = static_cast<int>(static_cast<unsigned>(request_int(item[kFirst].str())) - 1u);
-  part.end = item[kLast].matched ? static_cast<int>(static_cast<unsigned>(request_int(item[kLast].str())) - 1u)
-                                 : part.begin;
+  part.end =
+      item[kLast].matched ? static_cast<int>(static_cast<unsigned>(request_int(item[kLast].str())) - 1u) : part.begin;
   apply_selection_clause(item[kSkip1].str(), part, item[kSelection1].str());
   apply_selection_clause(item[kSkip2].str(), part, item[kSelection2].str());
   std::memcpy(part.flip_shift, flip_shift.c_str(), flip_shift.size() + 1);

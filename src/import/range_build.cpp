@@ -51,8 +51,9 @@ void KILNUTIL_SetRangeAllColumns(CellRange* range) {
 }
 
 void KILNUTIL_SetRangeAllRowsColumns(CellRange* range) {
-  KILNUTIL_SetRangeAllRows(range);
-  KILNUTIL_SetRangeAllColumns(range);
+  if (range == nullptr) return;
+  set_pair(*range, Dim::rows, Pair{0, -1});
+  set_pair(*range, Dim::cols, Pair{0, -1});
 }
 
 void KILNUTIL_TransposeRange(CellRange* range) {

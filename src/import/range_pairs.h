@@ -3,7 +3,7 @@
 // an index.
 #pragma once
 
-#include "kilnutil/import.h"
+#include <kilnutil/import.h>
 
 #include <cstdint>
 

@@ -19,6 +19,30 @@ bool both_in_pair(Pair values, Pair pair) {
   return index_in_pair(values.first, pair) && index_in_pair(values.last, pair);
 }
 
+// The whole sheet, or the unset range.
+bool is_all(const CellRange& range) {
+  return equal(range, CellRange{0, 0, -1, -1}) || equal(range, CellRange{kAll, kAll, kAll, kAll});
+}
+
+// A negative index is in every range; otherwise the dimension covers it.
+bool index_in_range(const CellRange* range, int index, Dim dim) {
+  if (index < 0) return true;
+  if (range == nullptr) return false;
+  return covers_all(*range, dim) || index_in_pair(index, pair_of(*range, dim));
+}
+
+bool cell_in_range(const CellRange* range, int col, int row) {
+  return index_in_range(range, row, Dim::rows) && index_in_range(range, col, Dim::cols);
+}
+
+int find_cell_range(const CellRange* ranges, int count, int col, int row) {
+  if (ranges == nullptr || count < 1) return -1;
+  for (int i = 0; i < count; ++i) {
+    if (cell_in_range(&ranges[i], col, row)) return i;
+  }
+  return -1;
+}
+
 // One dimension of the overlap test.
 bool pairs_overlap(const CellRange& a, const CellRange& b, Dim dim) {
   if (covers_all(a, dim) || covers_all(b, dim)) return true;
@@ -30,7 +54,7 @@ bool pairs_overlap(const CellRange& a, const CellRange& b, Dim dim) {
 }
 
 bool range_in_range(const CellRange& inner, const CellRange& outer) {
-  if (KILNUTIL_IsRangeAll(&outer)) return true;
+  if (is_all(outer)) return true;
   const bool inner_all_rows = covers_all(inner, Dim::rows);
   const bool inner_all_cols = covers_all(inner, Dim::cols);
   if (covers_all(outer, Dim::rows)) {
@@ -56,10 +80,7 @@ int KILNUTIL_AreEqualRanges(const CellRange* a, const CellRange* b) {
 
 int KILNUTIL_IsEmptyRange(const CellRange* range) { return range != nullptr && is_empty(*range) ? 1 : 0; }
 
-int KILNUTIL_IsRangeAll(const CellRange* range) {
-  if (range == nullptr) return 0;
-  return equal(*range, CellRange{0, 0, -1, -1}) || equal(*range, CellRange{kAll, kAll, kAll, kAll}) ? 1 : 0;
-}
+int KILNUTIL_IsRangeAll(const CellRange* range) { return range != nullptr && is_all(*range) ? 1 : 0; }
 
 int KILNUTIL_IsRangeAllRows(const CellRange* range) {
   return range != nullptr && covers_all(*range, Dim::rows) ? 1 : 0;
@@ -91,32 +112,18 @@ int is_row_col_in_inside_range(int index, const CellRange* range, unsigned char 
   return index_in_pair(index, pair_of(*range, row_flag != 0 ? Dim::rows : Dim::cols)) ? 1 : 0;
 }
 
-int KILNUTIL_IsRowInRange(const CellRange* range, int row) {
-  if (row < 0) return 1;
-  if (range == nullptr) return 0;
-  return covers_all(*range, Dim::rows) || index_in_pair(row, pair_of(*range, Dim::rows)) ? 1 : 0;
-}
+int KILNUTIL_IsRowInRange(const CellRange* range, int row) { return index_in_range(range, row, Dim::rows) ? 1 : 0; }
 
-int KILNUTIL_IsColInRange(const CellRange* range, int col) {
-  if (col < 0) return 1;
-  if (range == nullptr) return 0;
-  return covers_all(*range, Dim::cols) || index_in_pair(col, pair_of(*range, Dim::cols)) ? 1 : 0;
-}
+int KILNUTIL_IsColInRange(const CellRange* range, int col) { return index_in_range(range, col, Dim::cols) ? 1 : 0; }
 
-int KILNUTIL_IsCellInRange(const CellRange* range, int col, int row) {
-  return KILNUTIL_IsRowInRange(range, row) && KILNUTIL_IsColInRange(range, col) ? 1 : 0;
-}
+int KILNUTIL_IsCellInRange(const CellRange* range, int col, int row) { return cell_in_range(range, col, row) ? 1 : 0; }
 
 int KILNUTIL_FindCellRange(const CellRange* ranges, int count, int col, int row) {
-  if (ranges == nullptr || count < 1) return -1;
-  for (int i = 0; i < count; ++i) {
-    if (KILNUTIL_IsCellInRange(&ranges[i], col, row)) return i;
-  }
-  return -1;
+  return find_cell_range(ranges, count, col, row);
 }
 
 int KILNUTIL_IsCellInRanges(const CellRange* ranges, int count, int col, int row) {
-  return KILNUTIL_FindCellRange(ranges, count, col, row) >= 0 ? 1 : 0;
+  return find_cell_range(ranges, count, col, row) >= 0 ? 1 : 0;
 }
 
 int KILNUTIL_IsRangeInRange(const CellRange* inner, const CellRange* outer) {

@@ -1,8 +1,10 @@
 // Range reference text: an optional "[book]", an optional "sheet!", then two
 // cell references "$col$row" joined by ":". The row and column parts come out
 // as texts (digits, letters); turning them into numbers is the caller's job.
-#include "kilnutil/import.h"
-#include "kilnutil/text.h"
+#include "text/strchr.h"
+
+#include <kilnutil/import.h>
+#include <kilnutil/text.h>
 
 #include <cstring>
 
@@ -11,7 +13,9 @@ namespace {
 // Plain search (no brackets or quotes honoured) that steps whole characters.
 constexpr unsigned int kPlainSearch = 1;
 
-char* find_plain(char* text, char c) { return KILNUTIL_strchr(text, static_cast<unsigned char>(c), kPlainSearch); }
+char* find_plain(char* text, char c) {
+  return kiln::text::search_char(text, static_cast<unsigned char>(c), kPlainSearch);
+}
 
 bool is_digit(char c) { return c >= '0' && c <= '9'; }
 

@@ -1,5 +1,7 @@
 #include "numeric/decimal_conversion.h"
 
+#include "platform/bits.h"
+
 #include <bit>
 #include <charconv>
 #include <cmath>
@@ -9,9 +11,8 @@
 namespace kiln::numeric {
 namespace {
 
-constexpr double kExactPowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                        1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
-                                        1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+constexpr double kExactPowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+                                        1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 constexpr int kMaxExactPower = 22;
 constexpr std::uint64_t kMaxExactMantissa = std::uint64_t{1} << 53;
 constexpr int kMaxMantissaDigits = 19;
@@ -111,7 +112,11 @@ std::uint64_t eight_digits_value(std::uint64_t word) {
          32;
 }
 
-using Text128 = unsigned __int128;
+// A text of up to 16 bytes as one 128-bit little-endian number in two words.
+struct TextWords {
+  std::uint64_t low;
+  std::uint64_t high;
+};
 
 template <class Word>
 Word load(const char* p) {
@@ -120,23 +125,33 @@ Word load(const char* p) {
   return word;
 }
 
-// The bytes of a text of 2 to 16 bytes in one 128-bit value (first byte
-// lowest, zeros behind the text), from two overlapping loads inside it.
-Text128 load_short_text(const char* p, std::size_t length) {
+// The low 64 bits of the text shifted towards its end by `bits` (0 to 64).
+std::uint64_t low_word_shifted_up(const TextWords& text, unsigned bits) { return bits >= 64 ? 0 : text.low << bits; }
+
+// The low 64 bits of the text shifted towards its start by `bits` (1 to 127).
+std::uint64_t low_word_shifted_down(const TextWords& text, unsigned bits) {
+  if (bits >= 64) return text.high >> (bits - 64);
+  return (text.low >> bits) | (text.high << (64 - bits));
+}
+
+// The bytes of a text of 2 to 16 bytes (first byte lowest, zeros behind the
+// text), from two overlapping loads inside it.
+TextWords load_short_text(const char* p, std::size_t length) {
   if (length >= 8) {
-    return load<std::uint64_t>(p) | (Text128{load<std::uint64_t>(p + length - 8)} << (8 * (length - 8)));
+    const std::uint64_t tail = load<std::uint64_t>(p + length - 8);
+    const auto shift = static_cast<unsigned>(8 * (length - 8));
+    const std::uint64_t high = shift == 0 ? 0 : tail >> (64 - shift);
+    return {load<std::uint64_t>(p) | (shift == 64 ? 0 : tail << shift), high};
   }
   if (length >= 4) {
-    return load<std::uint32_t>(p) | (std::uint64_t{load<std::uint32_t>(p + length - 4)} << (8 * (length - 4)));
+    return {load<std::uint32_t>(p) | (std::uint64_t{load<std::uint32_t>(p + length - 4)} << (8 * (length - 4))), 0};
   }
-  return load<std::uint16_t>(p) | (std::uint32_t{load<std::uint16_t>(p + length - 2)} << (8 * (length - 2)));
+  return {load<std::uint16_t>(p) | (std::uint32_t{load<std::uint16_t>(p + length - 2)} << (8 * (length - 2))), 0};
 }
 
 // Index of the first byte equal to c in a word (8 when there is none).
 unsigned first_byte_equal(std::uint64_t word, char c) {
-  const std::uint64_t x = word ^ (0x0101010101010101ull * static_cast<unsigned char>(c));
-  const std::uint64_t zero_bytes = (x - 0x0101010101010101ull) & ~x & 0x8080808080808080ull;
-  return zero_bytes == 0 ? 8 : static_cast<unsigned>(__builtin_ctzll(zero_bytes)) / 8;
+  return platform::first_byte_equal(word, static_cast<unsigned char>(c));
 }
 
 // Texts of 2 to 16 bytes with at most eight digits on each side of the
@@ -148,20 +163,22 @@ bool convert_short_plain_decimal(const char* p, std::size_t length, char separat
   constexpr unsigned kSide = 8;
   if constexpr (std::endian::native != std::endian::little) return false;
   if (length < 2 || length > 2 * kSide) return false;
-  const Text128 text = load_short_text(p, length);
-  unsigned integer_length = first_byte_equal(static_cast<std::uint64_t>(text), separator);
-  if (integer_length == kSide) integer_length += first_byte_equal(static_cast<std::uint64_t>(text >> 64), separator);
+  const TextWords text = load_short_text(p, length);
+  unsigned integer_length = first_byte_equal(text.low, separator);
+  if (integer_length == kSide) integer_length += first_byte_equal(text.high, separator);
   if (integer_length >= length || integer_length > kSide) return false;
   const auto fraction_length = static_cast<unsigned>(length) - integer_length - 1;
   if (fraction_length > kSide) return false;
 
-  const auto integer_word = static_cast<std::uint64_t>((text << (8 * (kSide - integer_length))) |
-                                                       (Text128{kZeros} >> (8 * integer_length)));
+  const std::uint64_t zero_padding = integer_length == kSide ? 0 : kZeros >> (8 * integer_length);
+  const std::uint64_t integer_word = low_word_shifted_up(text, 8 * (kSide - integer_length)) | zero_padding;
   const std::uint64_t kept = fraction_length == kSide ? ~0ull : (1ull << (8 * fraction_length)) - 1;
-  const auto fraction_word = (static_cast<std::uint64_t>(text >> (8 * (integer_length + 1))) & kept) | (kZeros & ~kept);
+  const std::uint64_t fraction_word = (low_word_shifted_down(text, 8 * (integer_length + 1)) & kept) | (kZeros & ~kept);
   if (!is_eight_digits(integer_word) || !is_eight_digits(fraction_word)) return false;
   const std::uint64_t integer = eight_digits_value(integer_word);
-  if (integer >= 90000000) return false;  // keeps the scaled mantissa below 2^53
+  // Below 9 x 10^7 the mantissa is below 9 x 10^15 < 2^53: exact as a double,
+  // so the one division is the only rounding.
+  if (integer >= 90000000) return false;
   const std::uint64_t mantissa = integer * 100000000 + eight_digits_value(fraction_word);
   *value = static_cast<double>(mantissa) / kExactPowersOfTen[kSide];
   return true;

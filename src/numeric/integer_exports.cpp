@@ -1,6 +1,7 @@
 // Decimal integers in text: the trimmed integer parser, the whole-text test
 // and its form with trailing arguments, and two small digit tests.
 #include "numeric/integer_rule.h"
+#include "text/strchr.h"
 
 #include <kilnutil/numeric.h>
 #include <kilnutil/text.h>
@@ -45,7 +46,7 @@ int is_str_numeric_integer(const char* text, unsigned int* value) {
 
 char* is_str_numeric_integer_with_args(char* text, unsigned int* value, char separator) {
   if (text == nullptr) return nullptr;
-  char* found = KILNUTIL_strchr(text, static_cast<unsigned char>(separator), kPlainSearch);
+  char* found = kiln::text::search_char(text, static_cast<unsigned char>(separator), kPlainSearch);
   if (found == nullptr) return is_str_numeric_integer(text, value) ? text + std::strlen(text) : nullptr;
   *found = '\0';
   if (!is_str_numeric_integer(trim_in_place(text), value)) return nullptr;

@@ -14,9 +14,7 @@ namespace {
 
 constexpr int kMaxHexWidth = 64;
 
-bool is_hex_digit(char c) {
-  return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
-}
+bool is_hex_digit(char c) { return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F'); }
 
 bool is_f(char c) { return c == 'F' || c == 'f'; }
 

@@ -6,6 +6,7 @@
 // before it returns, except when the fraction conversion rejects the
 // mantissa: callers have always seen "." for the separator and a NUL behind
 // the fraction digits then, and some test for it.
+#include "frame/relaxed.h"
 #include "frame/settings.h"
 #include "numeric/decimal_conversion.h"
 #include "numeric/digit_run.h"
@@ -22,7 +23,7 @@
 namespace kiln::numeric {
 namespace {
 
-char g_decimal_separator = '.';
+kiln::frame::Relaxed<char> g_decimal_separator{'.'};
 
 constexpr unsigned kStrict = 1;
 constexpr unsigned kNotANumber = 0;
@@ -35,7 +36,7 @@ constexpr std::size_t kMaxExponentText = 39;
 
 // Bytes of the caller's text replaced while parsing, put back on return.
 class TextCuts {
- public:
+public:
   ~TextCuts() {
     for (int i = count_; i-- > 0;) *cuts_[i].at = cuts_[i].saved;
   }
@@ -50,7 +51,7 @@ class TextCuts {
   // Leaves every replacement in the text.
   void keep() { count_ = 0; }
 
- private:
+private:
   struct Cut {
     char* at;
     char saved;
@@ -127,7 +128,7 @@ struct ParseResult {
 // conversion of the whole mantissa, nothing left to restore), so it is
 // taken first; any other text goes the general way.
 bool parse_plain_decimal(const char* mantissa, double* value) {
-  const char separator = g_decimal_separator;
+  const char separator = g_decimal_separator.load();
   if ((separator != '.' && separator != ',') || frame::str2real_use_atof() == 0) return false;
   return convert_plain_decimal(mantissa, separator, value) != nullptr;
 }
@@ -138,7 +139,7 @@ bool parse_plain_decimal(const char* mantissa, double* value) {
 [[gnu::noinline]] ParseResult parse_mantissa_and_exponent(char* const mantissa, Sign sign, bool strict) {
   ParseResult result;
   TextCuts cuts;
-  const MantissaSplit split = split_mantissa(mantissa, g_decimal_separator);
+  const MantissaSplit split = split_mantissa(mantissa, g_decimal_separator.load());
   char* const exponent_mark = split.exponent_mark;
   char* const separator = split.separator;
   if (exponent_mark) cuts.replace(exponent_mark, '\0');
@@ -208,8 +209,8 @@ unsigned exchange_decimal_separator(const char* text) {
   if (text == nullptr) return 0;
   const char* p = skip_blanks(text);
   if (*p == '\0') return 0;
-  const char previous = g_decimal_separator;
-  g_decimal_separator = *p;
+  const char previous = g_decimal_separator.load();
+  g_decimal_separator.store(*p);
   return static_cast<unsigned>(static_cast<int>(static_cast<signed char>(previous)));
 }
 
@@ -228,7 +229,9 @@ unsigned int KILNUTIL_cvtstr2real_ex(char* text, double* value, unsigned int fla
   return result.code;
 }
 
-unsigned int KILNUTIL_cvtstr2real(char* text, double* value) { return KILNUTIL_cvtstr2real_ex(text, value, kStrict, nullptr); }
+unsigned int KILNUTIL_cvtstr2real(char* text, double* value) {
+  return KILNUTIL_cvtstr2real_ex(text, value, kStrict, nullptr);
+}
 
 double KILNUTIL_str2real(char* text) {
   double value = 0.0;

@@ -1,5 +1,6 @@
 // UTF-16 case mapping and the case-insensitive comparison on ICU.
 #include "platform/case_mapping.h"
+#include "platform/uchar_text.h"
 
 #include <unicode/uchar.h>
 #include <unicode/ucol.h>
@@ -85,15 +86,10 @@ unsigned lower_case_units(KILN_WCHAR* text, unsigned count) { return map_units(t
 int compare_ignoring_case(const KILN_WCHAR* a, const KILN_WCHAR* b) {
   UCollator* collator = case_insensitive_collator();
   if (collator == nullptr) return 0;
-  const auto* ua = reinterpret_cast<const UChar*>(a);
-  const auto* ub = reinterpret_cast<const UChar*>(b);
-  switch (ucol_strcoll(collator, ua, -1, ub, -1)) {
-    case UCOL_LESS:
-      return -1;
-    case UCOL_GREATER:
-      return 1;
-    default:
-      return 0;
+  switch (ucol_strcoll(collator, as_uchars(a), -1, as_uchars(b), -1)) {
+    case UCOL_LESS: return -1;
+    case UCOL_GREATER: return 1;
+    default: return 0;
   }
 }
 

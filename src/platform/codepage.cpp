@@ -1,6 +1,7 @@
 // Code pages on ICU: converters with the Windows-compatible tables, one per
 // code page and thread, opened on first use and kept for the thread's life.
 #include "platform/codepage.h"
+#include "platform/uchar_text.h"
 
 #include <unicode/ucnv.h>
 #include <unicode/ucnv_cb.h>
@@ -25,11 +26,10 @@ struct CodePageName {
   const char* icu_name;
 };
 constexpr CodePageName kCodePageNames[] = {
-    {65001, "UTF-8"},      {932, "windows-932"},  {936, "windows-936"},  {949, "windows-949"},
-    {950, "windows-950"},  {20127, "US-ASCII"},   {28591, "ISO-8859-1"}, {28592, "ISO-8859-2"},
-    {28595, "ISO-8859-5"}, {28597, "ISO-8859-7"}, {28605, "ISO-8859-15"}, {20932, "EUC-JP"},
-    {51932, "EUC-JP"},     {51949, "EUC-KR"},     {54936, "GB18030"},    {20866, "KOI8-R"},
-    {21866, "KOI8-U"},     {10000, "macintosh"},
+    {65001, "UTF-8"},       {932, "windows-932"},  {936, "windows-936"},  {949, "windows-949"},  {950, "windows-950"},
+    {20127, "US-ASCII"},    {28591, "ISO-8859-1"}, {28592, "ISO-8859-2"}, {28595, "ISO-8859-5"}, {28597, "ISO-8859-7"},
+    {28605, "ISO-8859-15"}, {20932, "EUC-JP"},     {51932, "EUC-JP"},     {51949, "EUC-KR"},     {54936, "GB18030"},
+    {20866, "KOI8-R"},      {21866, "KOI8-U"},     {10000, "macintosh"},
 };
 
 struct ConverterCloser {
@@ -102,9 +102,7 @@ private:
   int size_ = 0;
 };
 
-int text_length(const char* text, int length) {
-  return length < 0 ? static_cast<int>(std::strlen(text)) + 1 : length;
-}
+int text_length(const char* text, int length) { return length < 0 ? static_cast<int>(std::strlen(text)) + 1 : length; }
 
 int text_length(const KILN_WCHAR* text, int length) {
   if (length >= 0) return length;
@@ -172,15 +170,15 @@ struct SubstitutionContext {
   bool used = false;
 };
 
-void substitute_and_record(const void* context, UConverterFromUnicodeArgs* args, const UChar*, int32_t,
-                           UChar32, UConverterCallbackReason reason, UErrorCode* status) {
+void substitute_and_record(const void* context, UConverterFromUnicodeArgs* args, const UChar*, int32_t, UChar32,
+                           UConverterCallbackReason reason, UErrorCode* status) {
   auto* substitution = static_cast<SubstitutionContext*>(const_cast<void*>(context));
   if (reason > UCNV_IRREGULAR) return;  // reset, close, clone: nothing to substitute
   substitution->used = true;
   *status = U_ZERO_ERROR;
   if (substitution->default_char != nullptr) {
     const char* bytes = substitution->default_char;
-    ucnv_cbFromUWriteBytes(args, bytes, static_cast<int32_t>(std::strlen(bytes) > 1 ? 2 : 1), 0, status);
+    ucnv_cbFromUWriteBytes(args, bytes, std::strlen(bytes) > 1 ? 2 : 1, 0, status);
   } else {
     ucnv_cbFromUWriteSub(args, 0, status);
   }
@@ -194,7 +192,7 @@ bool convert_run_to_multibyte(UConverter* converter, const KILN_WCHAR* run, int 
   UErrorCode status = U_ZERO_ERROR;
   ucnv_setFromUCallBack(converter, substitute_and_record, &substitution, &previous_callback, &previous_context,
                         &status);
-  const UChar* source = reinterpret_cast<const UChar*>(run);
+  const UChar* source = as_uchars(run);
   const UChar* source_end = source + run_length;
   char buffer[512];
   bool ok = true;
@@ -211,9 +209,8 @@ bool convert_run_to_multibyte(UConverter* converter, const KILN_WCHAR* run, int 
 
 unsigned code_page_of_codeset(std::string_view codeset) {
   auto is = [&](std::string_view name) {
-    return codeset.size() == name.size() &&
-           std::equal(codeset.begin(), codeset.end(), name.begin(),
-                      [](char a, char b) { return (a | 0x20) == (b | 0x20); });
+    return codeset.size() == name.size() && std::equal(codeset.begin(), codeset.end(), name.begin(),
+                                                       [](char a, char b) { return (a | 0x20) == (b | 0x20); });
   };
   if (is("UTF-8") || is("UTF8")) return 65001;
   if (is("SHIFT_JIS") || is("SJIS") || is("EUC-JP") || is("EUCJP")) return 932;
@@ -248,14 +245,11 @@ bool is_lead_byte(unsigned code_page, unsigned char byte) {
   // Lead-byte ranges of the double-byte Windows code pages (the same sets the
   // converters use); single-byte pages and UTF-8 have no lead bytes.
   switch (code_page) {
-    case 932:
-      return (byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC);
+    case 932: return (byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC);
     case 936:
     case 949:
-    case 950:
-      return byte >= 0x81 && byte <= 0xFE;
-    default:
-      return false;
+    case 950: return byte >= 0x81 && byte <= 0xFE;
+    default: return false;
   }
 }
 

@@ -1,6 +1,7 @@
 // Arguments and lists: KILNUTIL_extract_arg_pointers, the token lists,
 // multidimensional subscripts and token counts.
 #include "text/exposed_search.h"
+#include "text/strchr.h"
 #include "text/token_list.h"
 #include "text/trim.h"
 
@@ -95,6 +96,6 @@ int KILNUTIL_get_token_count_ex(const char* text, int sep, int max, char** rest)
 int KILNUTIL_token_count_no_chk_inside(const char* text, int sep) {
   if (text == nullptr) return 0;
   int count = 1;
-  for (const char* p = text; (p = KILNUTIL_strchr(p, sep, 1)) != nullptr; p = after_char(p)) ++count;
+  for (const char* p = text; (p = kiln::text::search_char(p, sep, 1)) != nullptr; p = after_char(p)) ++count;
   return count;
 }

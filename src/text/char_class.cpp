@@ -1,9 +1,8 @@
-// KILNUTIL_test_char, KILNUTIL_isspace and the standalone bracket tests.
+// The class table of script characters, white space and the standalone
+// bracket tests.
 #include "text/char_class.h"
 
 #include "frame/settings.h"
-
-#include <kilnutil/text.h>
 
 #include <array>
 #include <initializer_list>
@@ -64,9 +63,7 @@ unsigned char char_class(unsigned c) {
   return kClasses[c];
 }
 
-bool is_space_slow(unsigned c) {
-  return c == ' ' || c - 9u <= 4u || (c == 0xA0 && frame::test_char_nbsp());
-}
+bool is_space_slow(unsigned c) { return c == ' ' || c - 9u <= 4u || (c == 0xA0 && frame::test_char_nbsp()); }
 
 int standalone_opener(unsigned c) {
   switch (c) {
@@ -89,12 +86,3 @@ int standalone_closer(unsigned c) {
 }
 
 }  // namespace kiln::text
-
-unsigned char KILNUTIL_test_char(int c) {
-  // Negative values lie outside the table; they read as "other".
-  return c < 0 ? kiln::text::kOther : kiln::text::char_class(static_cast<unsigned>(c));
-}
-
-int KILNUTIL_isspace(int c) { return c >= 0 && kiln::text::is_space(static_cast<unsigned>(c)) ? 1 : 0; }
-
-int KILNUTIL_is_quote_char(int c) { return c < 0 ? 0 : kiln::text::quote_class(static_cast<unsigned>(c)); }

@@ -8,7 +8,7 @@
 namespace kiln::text {
 
 class CharSet {
- public:
+public:
   explicit CharSet(const char* members) : members_(members) {
     for (const char* p = members; *p != '\0';) {
       const unsigned c = read_char(p);
@@ -24,7 +24,7 @@ class CharSet {
     return false;
   }
 
- private:
+private:
   const char* members_;
   std::bitset<128> ascii_;
   bool has_other_ = false;

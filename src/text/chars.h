@@ -41,15 +41,9 @@ const Ch* after_char(const Ch* p) {
 // Western single-byte one.
 inline unsigned read_byte(const char*& p) { return static_cast<unsigned char>(*p++); }
 
-// The start of the character before p, never before begin (the plain UTF-8
-// step back has no lower bound).
-inline const char* char_before(const char* begin, const char* p) {
-  const auto* b = reinterpret_cast<const unsigned char*>(p);
-  if (b[-1] < 0x80 || p - 1 == begin) return p - 1;
-  if ((b[-2] & 0x40) || p - 2 == begin) return p - 2;
-  if ((b[-3] & 0x40) || p - 3 == begin) return p - 3;
-  return p - 4;
-}
+// The start of the character before p, never before begin: the UTF-8 step
+// back of unicode/utf8.h, bounded.
+inline const char* char_before(const char* begin, const char* p) { return unicode::utf8_go_back_within(p, begin); }
 
 template <class Ch>
 Ch* mutable_pos(const Ch* p) {

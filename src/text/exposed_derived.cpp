@@ -2,6 +2,7 @@
 // sequence, and a whole word.
 #include "frame/comment_reader.h"
 #include "text/exposed_search.h"
+#include "text/strchr.h"
 #include "text/trim.h"
 
 #include <kilnutil/text.h>
@@ -50,7 +51,7 @@ char* KILNUTIL_exposed_char_pos_from_end(const char* text, int target, int* stat
 char* KILNUTIL_exposed_2_char_pos(const char* text, int c1, int c2) {
   if (text == nullptr) return nullptr;
   for (const char* p = text;;) {
-    char* hit = KILNUTIL_strchr(p, c1, 0);
+    char* hit = kiln::text::search_char(p, c1, 0);
     if (hit == nullptr) return nullptr;
     if (hit[1] == static_cast<char>(c2)) return hit;
     p = after_char(hit);

@@ -3,6 +3,7 @@
 // scan position.
 #include "text/exposed_search.h"
 
+#include "frame/relaxed.h"
 #include "frame/settings.h"
 
 #include <kilnutil/text.h>
@@ -11,20 +12,20 @@ namespace kiln::text {
 
 namespace {
 
-int g_escape_switch = 0;                    // 0: backslashes escape; 1: they are ordinary
-const char* g_last_scan_position = nullptr;  // see last_scan_position()
+kiln::frame::Relaxed<int> g_escape_switch{0};                     // 0: backslashes escape; 1: they are ordinary
+kiln::frame::Relaxed<const char*> g_last_scan_position{nullptr};  // see last_scan_position()
 
-constexpr int kSaveAndDisableEscapes = -1;
-constexpr int kRestoreEscapes = -2;
+constexpr int kSaveAndDisableEscapes = KILNUTIL_EXPOSED_SAVE_AND_DISABLE_ESCAPES;
+constexpr int kRestoreEscapes = KILNUTIL_EXPOSED_RESTORE_ESCAPES;
 
 const char* control_call(int target, int* status) {
   if (target == kSaveAndDisableEscapes) {
-    if (status != nullptr) *status = g_escape_switch;
-    g_escape_switch = 1;
+    if (status != nullptr) *status = g_escape_switch.load();
+    g_escape_switch.store(1);
   } else if (target == kRestoreEscapes && status != nullptr) {
-    g_escape_switch = *status;
+    g_escape_switch.store(*status);
   }
-  return g_last_scan_position;
+  return g_last_scan_position.load();
 }
 
 }  // namespace
@@ -39,16 +40,16 @@ ScanRules scan_rules(unsigned flags, bool loc) {
     rules.single_quote_first_only = (flags & kSingleQuoteFirstOnly) != 0;
   }
   rules.skip_numbers = !(flags & kKeepNumbers);
-  rules.escapes = g_escape_switch == 0;
+  rules.escapes = g_escape_switch.load() == 0;
   return rules;
 }
 
-int escape_switch() { return g_escape_switch; }
+int escape_switch() { return g_escape_switch.load(); }
 
-const char* last_scan_position() { return g_last_scan_position; }
+const char* last_scan_position() { return g_last_scan_position.load(); }
 
 void record_scan(const char* text, const char* first_skipped) {
-  g_last_scan_position = first_skipped != nullptr ? first_skipped : text;
+  g_last_scan_position.store(first_skipped != nullptr ? first_skipped : text);
 }
 
 const char* exposed_char(const char* text, int target, unsigned flags, int* status, bool loc, const char* end) {

@@ -8,19 +8,21 @@
 #include "text/chars.h"
 #include "text/letter_case.h"
 
+#include <kilnutil/text.h>
+
 #include <cstdint>
 #include <initializer_list>
 
 namespace kiln::text {
 
 // Search flags.
-inline constexpr unsigned kKeepNumbers = 0x40;
-inline constexpr unsigned kCaseBlind = 0x80;
-inline constexpr unsigned kSingleQuoteFirstOnly = 0x100;
-inline constexpr unsigned kNoParentheses = 0x1000000;
-inline constexpr unsigned kNoAngleBrackets = 0x8000000;
-inline constexpr unsigned kNoSingleQuote = 0x10000000;
-inline constexpr unsigned kNoDoubleQuote = 0x20000000;
+inline constexpr unsigned kKeepNumbers = KILNUTIL_EXPOSED_KEEP_NUMBERS;
+inline constexpr unsigned kCaseBlind = KILNUTIL_EXPOSED_CASE_BLIND;
+inline constexpr unsigned kSingleQuoteFirstOnly = KILNUTIL_EXPOSED_SINGLE_QUOTE_FIRST_ONLY;
+inline constexpr unsigned kNoParentheses = KILNUTIL_EXPOSED_NO_PARENTHESES;
+inline constexpr unsigned kNoAngleBrackets = KILNUTIL_EXPOSED_NO_ANGLE_BRACKETS;
+inline constexpr unsigned kNoSingleQuote = KILNUTIL_EXPOSED_NO_SINGLE_QUOTE;
+inline constexpr unsigned kNoDoubleQuote = KILNUTIL_EXPOSED_NO_DOUBLE_QUOTE;
 
 // What one search treats as structure, from its flags and loc argument.
 struct ScanRules {
@@ -118,8 +120,8 @@ const Ch* numeric_literal_end(const Ch* start) {
 enum class ScanRole : unsigned char { kPlain, kQuote, kNumber, kOpen, kClose, kStop };
 
 struct ScanTables {
-  ScanRole role[256]{};        // kStop: NUL and bytes from 0x80 (read as characters)
-  unsigned char pair[128]{};   // the pair index of a bracket character
+  ScanRole role[256]{};       // kStop: NUL and bytes from 0x80 (read as characters)
+  unsigned char pair[128]{};  // the pair index of a bracket character
 };
 
 inline constexpr ScanTables kScanTables = [] {
@@ -206,8 +208,7 @@ const Ch* exposed_scan(const Ch* text, const Ch* end, const Match& match, const 
       case ScanRole::kClose:
         if (open == kScanTables.pair[c] && --depth == 0) open = -1;
         break;
-      default:
-        break;
+      default: break;
     }
   }
 }
@@ -218,7 +219,8 @@ const Ch* find_exposed(const Ch* text, int target, unsigned flags, const ScanRul
                        const Ch** first_skipped) {
   if (target == 0) return exposed_scan(text, end, AnySpace{}, rules, status, first_skipped);
   const auto t = static_cast<unsigned>(target);
-  if (flags & kCaseBlind) return exposed_scan(text, end, SameCharCaseBlind{t, upper_case(t)}, rules, status, first_skipped);
+  if (flags & kCaseBlind)
+    return exposed_scan(text, end, SameCharCaseBlind{t, upper_case(t)}, rules, status, first_skipped);
   return exposed_scan(text, end, SameChar{t}, rules, status, first_skipped);
 }
 
@@ -246,7 +248,8 @@ const Ch* exposed_char_pos(const Ch* text, int target, unsigned flags, int* stat
 void record_scan(const char* text, const char* first_skipped);
 
 template <class Match>
-const char* exposed_match(const char* text, const Match& match, unsigned flags, bool loc, const char* end, int* status) {
+const char* exposed_match(const char* text, const Match& match, unsigned flags, bool loc, const char* end,
+                          int* status) {
   if (status != nullptr) *status = 0;
   const char* first_skipped = nullptr;
   const char* hit = exposed_scan(text, end, match, scan_rules(flags, loc), status, &first_skipped);

@@ -1,6 +1,7 @@
 // KILNUTIL_next_quoted_term: the next separated term, where a term may be
 // quoted (and a doubled quote character stands for itself).
 #include "text/trim.h"
+#include "text/strchr.h"
 
 #include <kilnutil/text.h>
 
@@ -12,7 +13,7 @@ namespace {
 
 // Copies whole characters while they fit into size - 1 bytes.
 class BoundedCopy {
- public:
+public:
   BoundedCopy(char* dest, long size) : out_(dest), room_(size - 1) {}
   bool put(const char* from, const char* to) {
     if (to - from > room_) return false;
@@ -23,7 +24,7 @@ class BoundedCopy {
     if (room_ >= 0) *out_ = '\0';
   }
 
- private:
+private:
   char* out_;
   long room_;
 };
@@ -74,7 +75,7 @@ char* KILNUTIL_next_quoted_term_ex_ex(char* dest, const char* text, int sep, int
     if (!copy.put(at, p)) break;
   }
   copy.finish();
-  char* next_sep = KILNUTIL_strchr(stop, sep, 1);
+  char* next_sep = kiln::text::search_char(stop, sep, 1);
   return next_sep != nullptr ? next_sep + 1 : nullptr;
 }
 

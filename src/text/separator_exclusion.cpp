@@ -1,4 +1,5 @@
 // The process-wide separator-exclusion character of separator detection.
+#include "frame/relaxed.h"
 #include "text/templates.h"
 
 #include <kilnutil/text.h>
@@ -7,15 +8,15 @@ namespace kiln::text {
 
 namespace {
 
-int g_separator_exclusion_char = 0;  // none
+kiln::frame::Relaxed<int> g_separator_exclusion_char{0};  // none
 
 }  // namespace
 
-int separator_exclusion_char() { return g_separator_exclusion_char; }
+int separator_exclusion_char() { return g_separator_exclusion_char.load(); }
 
 int set_separator_exclusion_char(int c) {
-  const int previous = g_separator_exclusion_char;
-  g_separator_exclusion_char = c;
+  const int previous = g_separator_exclusion_char.load();
+  g_separator_exclusion_char.store(c);
   return previous;
 }
 

@@ -1,19 +1,19 @@
 // KILNUTIL_strchr (exposed and plain modes) and KILNUTIL_strchr_reverse.
 #include "text/strchr.h"
 
+#include "frame/relaxed.h"
 #include "frame/settings.h"
 #include "text/chars.h"
+#include "text/letter_case.h"
 
 #include <kilnutil/text.h>
-#include <kilnutil/unicode.h>
-
-#include <cstdint>
 
 namespace kiln::text {
 
 namespace {
 
-PairNesting g_strchr_nesting;
+frame::Relaxed<int> g_strchr_kind{0};
+frame::Relaxed<int> g_strchr_depth{0};
 
 // c and its case-converted form (c itself when it has none).
 struct Target {
@@ -22,50 +22,39 @@ struct Target {
   bool operator()(unsigned ch) const { return ch == c || ch == alt; }
 };
 
-unsigned other_case(unsigned c) {
-  if (c < 128) {
-    if (c - 'a' < 26u) return c - 32;
-    if (c - 'A' < 26u) return c + 32;
-    return c;
-  }
-  if (c >= 0x10000) return c;
-  auto convert = [c](int to_lower) {
-    char* as_char = reinterpret_cast<char*>(static_cast<std::uintptr_t>(c));
-    return static_cast<unsigned>(
-        reinterpret_cast<std::uintptr_t>(KILNUTIL_UNICODE_UTF8_to_upper_or_to_lower(as_char, to_lower, 1, 0)) & 0xFFFF);
-  };
-  const unsigned upper = convert(0);
-  return upper != c ? upper : convert(1);
-}
-
 }  // namespace
 
-PairNesting& strchr_nesting() { return g_strchr_nesting; }
+PairNesting strchr_nesting() {
+  PairNesting nesting;
+  nesting.kind = g_strchr_kind.load();
+  nesting.depth = g_strchr_depth.load();
+  return nesting;
+}
+
+void remember_strchr_nesting(const PairNesting& nesting) {
+  g_strchr_kind.store(nesting.kind);
+  g_strchr_depth.store(nesting.depth);
+}
 
 bool walks_bytes() {
   const unsigned cp = frame::effective_code_page(-1);
   return cp >= 1200 && cp <= 1254;
 }
 
-const char* strchr_search(const char* text, int c, unsigned mode) {
+char* search_char(const char* text, int c, unsigned mode) {
   if (text == nullptr || c <= 0) return nullptr;
   const auto ch = static_cast<unsigned>(c);
   const Target target{ch, (mode & kStrCharEitherCase) ? other_case(ch) : ch};
-  PairNesting& nesting = strchr_nesting();
-  const char* hit =
-      walks_bytes()
-          ? find_str_char(text, target, mode, [](const char*& p) { return read_byte(p); }, nesting)
-          : find_str_char(text, target, mode, [](const char*& p) { return read_char(p); }, nesting);
-  return hit;
+  PairNesting nesting = strchr_nesting();
+  const char* hit = walks_bytes() ? find_str_char(
+                                        text, target, mode, [](const char*& p) { return read_byte(p); }, nesting)
+                                  : find_str_char(
+                                        text, target, mode, [](const char*& p) { return read_char(p); }, nesting);
+  remember_strchr_nesting(nesting);
+  return mutable_pos(hit);
 }
 
-}  // namespace kiln::text
-
-using namespace kiln::text;
-
-char* KILNUTIL_strchr(const char* text, int c, unsigned int mode) { return mutable_pos(strchr_search(text, c, mode)); }
-
-char* KILNUTIL_strchr_reverse(const char* text, int c, const char* from) {
+char* search_char_reverse(const char* text, int c, const char* from) {
   if (text == nullptr || c <= 0) return nullptr;
   const auto ch = static_cast<unsigned>(c);
   const bool bytes = walks_bytes();
@@ -78,3 +67,15 @@ char* KILNUTIL_strchr_reverse(const char* text, int c, const char* from) {
   }
   return mutable_pos(last);
 }
+
+}  // namespace kiln::text
+
+extern "C" {
+
+char* KILNUTIL_strchr(const char* text, int c, unsigned int mode) { return kiln::text::search_char(text, c, mode); }
+
+char* KILNUTIL_strchr_reverse(const char* text, int c, const char* from) {
+  return kiln::text::search_char_reverse(text, c, from);
+}
+
+}  // extern "C"

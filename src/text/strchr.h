@@ -3,6 +3,8 @@
 
 #include "text/char_class.h"
 
+#include <kilnutil/text.h>
+
 namespace kiln::text {
 
 // One pair kind at a time (the begin_quote_class kinds: "(" ")", "{" "}",
@@ -32,11 +34,11 @@ struct PairNesting {
 
 // The modes of the character search shared by KILNUTIL_strchr and the
 // narrow/wide StrChar template.
-inline constexpr unsigned kStrCharPlain = 0x1;           // no pairs or quotes
-inline constexpr unsigned kStrCharBackward = 0x2;        // plain: the last hit
-inline constexpr unsigned kStrCharSkipLeadingRun = 0x4;  // plain: from behind the run of c that opens the text
-inline constexpr unsigned kStrCharTrimmed = 0x10;        // plain: white space at both ends left out
-inline constexpr unsigned kStrCharEitherCase = 0x20;     // c matches in either case
+inline constexpr unsigned kStrCharPlain = KILNUTIL_STRCHR_PLAIN;                       // no pairs or quotes
+inline constexpr unsigned kStrCharBackward = KILNUTIL_STRCHR_BACKWARD;                 // plain: the last hit
+inline constexpr unsigned kStrCharSkipLeadingRun = KILNUTIL_STRCHR_AFTER_LEADING_RUN;  // plain: behind the run of c
+inline constexpr unsigned kStrCharTrimmed = KILNUTIL_STRCHR_TRIMMED;         // plain: white space at both ends left out
+inline constexpr unsigned kStrCharEitherCase = KILNUTIL_STRCHR_EITHER_CASE;  // c matches in either case
 
 // The search itself, over any character width: `read` reads one character
 // and moves past it, `matches` tests a character, `nesting` holds the pair
@@ -94,12 +96,16 @@ const Ch* find_str_char(const Ch* text, const Match& matches, unsigned mode, Rea
   return last;
 }
 
-// The process-wide nesting of KILNUTIL_strchr, reset by every call to it and
-// by KILNUTIL_next_token, which reads tokens with it.
-PairNesting& strchr_nesting();
+// The process-wide nesting of KILNUTIL_strchr, reset by every exposed search
+// and by KILNUTIL_next_token, which reads tokens with it. A call works on a
+// copy and stores the state it ended with.
+PairNesting strchr_nesting();
+void remember_strchr_nesting(const PairNesting& nesting);
 
-// KILNUTIL_strchr: the search of c in narrow text by mode (0: exposed).
-const char* strchr_search(const char* text, int c, unsigned mode);
+// KILNUTIL_strchr and KILNUTIL_strchr_reverse: null for a null text or a c of
+// 0 or below.
+char* search_char(const char* text, int c, unsigned mode);
+char* search_char_reverse(const char* text, int c, const char* from);
 
 // Whether narrow text is walked byte by byte: the string-process code page
 // (or the ANSI code page when none is set) is a Western one, 1200 to 1254.

@@ -69,19 +69,19 @@ int KILNUTILT_FindSeparator(Ch* text, int enough, int lines) {
   return text != nullptr ? kiln::text::find_separator(text, enough, lines) : -1;
 }
 
-#define KILNUTILT_INSTANTIATE(Ch)                                                         \
-  template Ch* KILNUTILT_TrimLeft<Ch>(Ch*);                                               \
-  template Ch* KILNUTILT_TrimRight<Ch>(Ch*);                                              \
-  template Ch* KILNUTILT_TrimBoth<Ch>(Ch*);                                               \
-  template Ch* KILNUTILT_ExposedCharPos<Ch>(const Ch*, int, unsigned int, int*);          \
-  template Ch* KILNUTILT_StrChar<Ch>(const Ch*, int, int);                                \
-  template Ch* KILNUTILT_NextToken<Ch>(Ch*, const Ch*, const Ch*, int);                   \
-  template int KILNUTILT_SeparateStrToTokenList<Ch>(Ch*, Ch**, int, int);                 \
-  template int KILNUTILT_FirstLineTokens<Ch>(Ch*, int);                                   \
-  template int KILNUTILT_LineCount<Ch>(const Ch*);                                        \
-  template int KILNUTILT_WordsInLine<Ch>(const Ch*);                                      \
-  template int KILNUTILT_num_words_in_lines<Ch>(const Ch*, int);                          \
-  template int KILNUTILT_CountConsistenTokens<Ch>(Ch*, int, int, int);                    \
+#define KILNUTILT_INSTANTIATE(Ch)                                                \
+  template Ch* KILNUTILT_TrimLeft<Ch>(Ch*);                                      \
+  template Ch* KILNUTILT_TrimRight<Ch>(Ch*);                                     \
+  template Ch* KILNUTILT_TrimBoth<Ch>(Ch*);                                      \
+  template Ch* KILNUTILT_ExposedCharPos<Ch>(const Ch*, int, unsigned int, int*); \
+  template Ch* KILNUTILT_StrChar<Ch>(const Ch*, int, int);                       \
+  template Ch* KILNUTILT_NextToken<Ch>(Ch*, const Ch*, const Ch*, int);          \
+  template int KILNUTILT_SeparateStrToTokenList<Ch>(Ch*, Ch**, int, int);        \
+  template int KILNUTILT_FirstLineTokens<Ch>(Ch*, int);                          \
+  template int KILNUTILT_LineCount<Ch>(const Ch*);                               \
+  template int KILNUTILT_WordsInLine<Ch>(const Ch*);                             \
+  template int KILNUTILT_num_words_in_lines<Ch>(const Ch*, int);                 \
+  template int KILNUTILT_CountConsistenTokens<Ch>(Ch*, int, int, int);           \
   template int KILNUTILT_FindSeparator<Ch>(Ch*, int, int);
 
 KILNUTILT_INSTANTIATE(char)

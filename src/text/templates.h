@@ -37,12 +37,11 @@ template <class Ch>
 Ch* str_char(const Ch* text, int c, unsigned mode) {
   if (text == nullptr || c <= 0) return nullptr;
   const auto target = static_cast<unsigned>(c);
-  const bool either_case = (mode & kStrCharEitherCase) != 0;
-  const auto matches = [target, either_case](unsigned ch) {
-    return ch == target || (either_case && same_letter_either_case(ch, target));
-  };
+  const unsigned other_form = (mode & kStrCharEitherCase) != 0 ? other_case(target) : target;
+  const auto matches = [target, other_form](unsigned ch) { return ch == target || ch == other_form; };
   PairNesting nesting;  // the template keeps no state between calls
-  return mutable_pos(find_str_char(text, matches, mode, [](const Ch*& p) { return read_char(p); }, nesting));
+  return mutable_pos(find_str_char(
+      text, matches, mode, [](const Ch*& p) { return read_char(p); }, nesting));
 }
 
 // The first exposed target (0: any white space), template-family rules.

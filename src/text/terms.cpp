@@ -1,6 +1,7 @@
 // Terms: KILNUTIL_separate_one_term, KILNUTIL_get_preceeding_term and
 // KILNUTIL_get_remaining_term.
 #include "text/char_set.h"
+#include "text/strchr.h"
 #include "text/exposed_search.h"
 #include "text/trim.h"
 
@@ -89,7 +90,7 @@ char* KILNUTIL_get_preceeding_term(char** term, char* closer, char* text) {
     return closer;
   }
   *closer = '\0';
-  char* found = KILNUTIL_strchr_reverse(text, opener, nullptr);
+  char* found = kiln::text::search_char_reverse(text, opener, nullptr);
   if (found == nullptr) return nullptr;
   if (term != nullptr) *term = trim_both(found + 1);
   return found;

@@ -7,6 +7,7 @@
 #include "text/trim.h"
 
 #include <kilnutil/frame.h>
+#include <kilnutil/text.h>
 
 namespace kiln::text {
 
@@ -17,7 +18,8 @@ namespace kiln::text {
 inline unsigned token_list_flags(int max) {
   constexpr unsigned kOrdinarySingleQuote = kNoSingleQuote | kNoAngleBrackets | kKeepNumbers;
   constexpr unsigned kQuotingSingleQuote = kNoAngleBrackets | kKeepNumbers;
-  return max == -1 || max == 60000 ? kOrdinarySingleQuote : kQuotingSingleQuote;
+  return max == KILNUTIL_TOKENS_NO_LIMIT || max == KILNUTIL_TOKENS_LIMIT_60000 ? kOrdinarySingleQuote
+                                                                               : kQuotingSingleQuote;
 }
 
 // Splits text at each exposed sep (0: ","; -1: white space, and the white
@@ -28,7 +30,7 @@ inline unsigned token_list_flags(int max) {
 template <class Ch>
 int separate_str_to_token_list(Ch* text, Ch** list, int sep, int max) {
   if (text == nullptr || KILNUTILT::GetTwo(text) == 0) return 0;
-  const int target = sep == 0 ? ',' : sep == -1 ? 0 : sep;
+  const int target = sep == KILNUTIL_TOKENS_SEP_COMMA ? ',' : sep == KILNUTIL_TOKENS_SEP_WHITE_SPACE ? 0 : sep;
   const unsigned flags = token_list_flags(max);
   const bool limited = max > 0;
   int found = 0;

@@ -1,6 +1,7 @@
 // Tokens and words: KILNUTIL_next_token (with its enclosed-token flag),
 // KILNUTIL_next_word, KILNUTIL_get_next_word, KILNUTIL_next_token_sep and
 // KILNUTIL_find_any_of_characters_in_str.
+#include "frame/relaxed.h"
 #include "text/char_set.h"
 #include "text/exposed_search.h"
 #include "text/strchr.h"
@@ -14,17 +15,15 @@ using namespace kiln::text;
 
 namespace {
 
-bool g_enclosed_token = false;  // the last token was the inside of a pair
+kiln::frame::Relaxed<bool> g_enclosed_token{false};  // the last token was the inside of a pair
 
 constexpr unsigned kAnywhere = 0x10000;
 
-bool is_token_operator(unsigned c) {
-  return c == '+' || c == '-' || c == '/' || c == '=' || c == '^';
-}
+bool is_token_operator(unsigned c) { return c == '+' || c == '-' || c == '/' || c == '=' || c == '^'; }
 
 // Copies characters into a destination the caller sized as its text.
 class TokenWriter {
- public:
+public:
   explicit TokenWriter(char* dest) : begin_(dest), out_(dest) {}
   void put(const char* from, const char* to) {
     while (from < to) *out_++ = *from++;
@@ -36,23 +35,21 @@ class TokenWriter {
   }
   void finish() { *out_ = '\0'; }
 
- private:
+private:
   char* begin_;
   char* out_;
 };
 
-// Reads the token at p into out; returns the position where it ended.
-const char* read_token(const char* p, TokenWriter& out) {
-  PairNesting& nesting = strchr_nesting();
+const char* read_token_with(const char* p, TokenWriter& out, PairNesting& nesting) {
   nesting.reset();
-  g_enclosed_token = false;
+  g_enclosed_token.store(false);
   for (;;) {
     const char* at = p;
     const unsigned c = read_char(p);
     if (c == 0) return at;
     if (nesting.is_open()) {
       const bool closed = nesting.follow(c);
-      if (closed && g_enclosed_token) return p;  // the enclosing closer is dropped
+      if (closed && g_enclosed_token.load()) return p;  // the enclosing closer is dropped
       out.put(at, p);
       if (closed) return p;
       continue;
@@ -60,7 +57,7 @@ const char* read_token(const char* p, TokenWriter& out) {
     if (const int pair = begin_quote_class(c)) {
       if (out.empty()) {  // the token is the inside of this pair
         nesting.open(pair);
-        g_enclosed_token = true;
+        g_enclosed_token.store(true);
         continue;
       }
       if (c != '(' && c != '[') return at;
@@ -80,6 +77,14 @@ const char* read_token(const char* p, TokenWriter& out) {
   }
 }
 
+// Reads the token at p into out; returns the position where it ended.
+const char* read_token(const char* p, TokenWriter& out) {
+  PairNesting nesting;
+  const char* end = read_token_with(p, out, nesting);
+  remember_strchr_nesting(nesting);
+  return end;
+}
+
 void copy_range(char* dest, const char* from, const char* to) {
   std::memmove(dest, from, static_cast<std::size_t>(to - from));
   dest[to - from] = '\0';
@@ -96,7 +101,7 @@ char* KILNUTIL_next_token(char* dest, const char* text) {
   return mutable_pos(p);
 }
 
-int KILNUTIL_next_token_enclosed(void) { return g_enclosed_token ? 1 : 0; }
+int KILNUTIL_next_token_enclosed(void) { return g_enclosed_token.load() ? 1 : 0; }
 
 char* KILNUTIL_next_word(char* dest, const char* text) {
   if (dest == nullptr || text == nullptr) return nullptr;
@@ -121,7 +126,7 @@ char* KILNUTIL_next_token_sep(char* dest, const char* text, const char* separato
   if (dest == nullptr || text == nullptr) return nullptr;
   for (const char* s = separators != nullptr ? separators : ""; *s != '\0';) {
     const auto separator = static_cast<int>(read_char(s));
-    if (const char* hit = KILNUTIL_strchr(text, separator, 1)) {
+    if (const char* hit = kiln::text::search_char(text, separator, 1)) {
       copy_range(dest, text, hit);
       return mutable_pos(after_char(hit));
     }

@@ -1,5 +1,6 @@
 // The Base64 encoder: full groups through a 12-bit pair table, 2 groups per
 // 8-byte load, the last (padded) group on its own.
+#include "platform/bits.h"
 #include "unicode/base64.h"
 #include "unicode/base64_tables.h"
 
@@ -19,12 +20,11 @@ using base64_tables::kCharPairs;
 uint64_t load_big_endian_64(const unsigned char* p) {
   uint64_t word;
   std::memcpy(&word, p, sizeof word);
-  if constexpr (std::endian::native == std::endian::little) word = __builtin_bswap64(word);
-  return word;
+  return platform::big_endian64(word);
 }
 
 void store_little_endian_64(char* p, uint64_t word) {
-  if constexpr (std::endian::native == std::endian::big) word = __builtin_bswap64(word);
+  word = platform::little_endian64(word);
   std::memcpy(p, &word, sizeof word);
 }
 

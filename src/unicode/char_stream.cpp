@@ -77,7 +77,8 @@ int read_utf8_char(void* stream, unsigned flags) {
 void unread_utf8_char(unsigned c, void* stream, unsigned flags) {
   if (stream == nullptr) return;
   if (is_wide_stream(flags)) {
-    std::ungetwc(static_cast<wint_t>(c), static_cast<FILE*>(stream));
+    const std::wint_t wide = c;
+    std::ungetwc(wide, static_cast<FILE*>(stream));
     return;
   }
   char bytes[4];

@@ -94,7 +94,8 @@ int convert_single_byte(unsigned page, const unsigned char* p, size_t n, char* o
     char encoded[4];
     const int length = utf8_encode(units[i], encoded);
     table[i] = static_cast<PackedUtf8>(length) << 24;
-    for (int k = 0; k < length; ++k) table[i] |= static_cast<PackedUtf8>(static_cast<unsigned char>(encoded[k])) << (8 * k);
+    for (int k = 0; k < length; ++k)
+      table[i] |= static_cast<PackedUtf8>(static_cast<unsigned char>(encoded[k])) << (8 * k);
   }
   char* out = out_begin;
   for (size_t i = 0; i < n; ++i) {

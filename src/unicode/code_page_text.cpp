@@ -13,8 +13,7 @@ unsigned resolve_code_page(int code_page) {
       return platform::ansi_code_page();
     case 2:  // the Macintosh code page
       return 10000;
-    default:
-      return page;
+    default: return page;
   }
 }
 

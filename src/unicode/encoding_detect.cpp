@@ -2,6 +2,7 @@
 #include "unicode/encoding_detect.h"
 
 #include "frame/settings.h"
+#include "platform/bits.h"
 
 #include <kilnutil/unicode.h>
 
@@ -13,9 +14,9 @@ namespace kiln::unicode {
 
 namespace {
 
-// The detector's parameters, built afresh for every buffer.
+// The detector's parameters, built afresh for every buffer. A NUL byte
+// always fails the UTF-8 check (see kContinuations).
 struct DetectorParameters {
-  bool reject_nul_in_utf8 = true;
   int high_ratio_percent = 70;
   int low_ratio_percent = 10;
   bool guess = true;
@@ -25,27 +26,15 @@ bool starts_with(const unsigned char* bytes, size_t count, const unsigned char* 
   return count >= mark_size && std::memcmp(bytes, mark, mark_size) == 0;
 }
 
-constexpr uint64_t kOnes = 0x0101010101010101ull;
-constexpr uint64_t kHighBits = 0x8080808080808080ull;
-
-uint64_t load_word(const unsigned char* p) {
-  uint64_t word;
-  std::memcpy(&word, p, sizeof word);
-  return word;
-}
-
-// Non-zero when one of the eight bytes is 0 or 0x80 and above. The
-// subtraction borrows into a byte's top bit only for a zero byte (or after a
-// lower zero byte), so the test is exact for the word as a whole.
-uint64_t zero_or_high_byte(uint64_t word) { return ((word - kOnes) | word) & kHighBits; }
+using platform::load_word;
+using platform::zero_or_high_byte;
 
 // Length of the run of bytes 0x01-0x7F at the start, found 32 bytes at a time.
 size_t ascii_run(const unsigned char* bytes, size_t count) {
   size_t i = 0;
   while (i + 32 <= count) {
     const uint64_t bad = zero_or_high_byte(load_word(bytes + i)) | zero_or_high_byte(load_word(bytes + i + 8)) |
-                         zero_or_high_byte(load_word(bytes + i + 16)) |
-                         zero_or_high_byte(load_word(bytes + i + 24));
+                         zero_or_high_byte(load_word(bytes + i + 16)) | zero_or_high_byte(load_word(bytes + i + 24));
     if (bad != 0) break;
     i += 32;
   }

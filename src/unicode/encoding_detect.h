@@ -3,21 +3,23 @@
 // exported detectors (kilnutil/unicode.h) are thin wrappers around these.
 #pragma once
 
+#include <kilnutil/unicode.h>
+
 #include <cstddef>
 #include <cstdio>
 
 namespace kiln::unicode {
 
 // Encoding codes as the detectors return them.
-inline constexpr unsigned kEncodingCodePage = 0;
-inline constexpr unsigned kEncodingUtf8 = 1;
-inline constexpr unsigned kEncodingUtf16Le = 2;
-inline constexpr unsigned kEncodingUtf16Be = 3;
-inline constexpr unsigned kEncodingUtf32Le = 4;
-inline constexpr unsigned kEncodingUtf32Be = 5;
-inline constexpr unsigned kEncodingMarkBit = 0x100;
-inline constexpr unsigned kEncodingAsciiBit = 0x200;
-inline constexpr unsigned kEncodingNone = 255;
+inline constexpr unsigned kEncodingCodePage = KILNUTIL_ENCODING_CODE_PAGE;
+inline constexpr unsigned kEncodingUtf8 = KILNUTIL_ENCODING_UTF8;
+inline constexpr unsigned kEncodingUtf16Le = KILNUTIL_ENCODING_UTF16LE;
+inline constexpr unsigned kEncodingUtf16Be = KILNUTIL_ENCODING_UTF16BE;
+inline constexpr unsigned kEncodingUtf32Le = KILNUTIL_ENCODING_UTF32LE;
+inline constexpr unsigned kEncodingUtf32Be = KILNUTIL_ENCODING_UTF32BE;
+inline constexpr unsigned kEncodingMarkBit = KILNUTIL_ENCODING_MARK;
+inline constexpr unsigned kEncodingAsciiBit = KILNUTIL_ENCODING_ASCII;
+inline constexpr unsigned kEncodingNone = KILNUTIL_ENCODING_NONE;
 
 inline constexpr unsigned encoding_family(unsigned code) { return code & 0xFF; }
 

@@ -1,5 +1,7 @@
 // How many leading bytes of a file the detector examines, by the file's
 // extension: three process-wide counts with their accessor.
+#include "frame/relaxed.h"
+#include "unicode/ascii_case.h"
 #include "unicode/encoding_detect.h"
 
 #include <kilnutil/unicode.h>
@@ -11,7 +13,7 @@ namespace {
 
 enum BufferSizeKind { kKindCsv = 0, kKindTxt = 1, kKindOther = 2, kKindCount = 3 };
 
-uint64_t g_detect_buffer_sizes[kKindCount] = {51200, 51200, 51200};
+kiln::frame::Relaxed<uint64_t> g_detect_buffer_sizes[kKindCount] = {51200, 51200, 51200};
 
 // double to unsigned 64-bit as the host's runtime converts it: values of 2^63
 // and more lose 2^63 and get the top bit; what no integer holds (NaN, 2^64 and
@@ -24,15 +26,6 @@ uint64_t to_unsigned_64(double value) {
   return kTopBit;
 }
 
-// Equality ignoring ASCII case (independent of the process locale).
-bool equals_ignoring_ascii_case(const char* a, const char* b) {
-  auto lower = [](unsigned char c) { return (c >= 'A' && c <= 'Z') ? c + ('a' - 'A') : c; };
-  for (; *a != '\0' && *b != '\0'; ++a, ++b) {
-    if (lower(static_cast<unsigned char>(*a)) != lower(static_cast<unsigned char>(*b))) return false;
-  }
-  return *a == *b;
-}
-
 int kind_of_path(const char* path) {
   if (path == nullptr) return kKindOther;
   const char* dot = std::strrchr(path, '.');
@@ -40,8 +33,8 @@ int kind_of_path(const char* path) {
   const char* backslash = std::strrchr(path, '\\');
   const char* slash = std::strrchr(path, '/');
   if ((backslash != nullptr && dot < backslash) || (slash != nullptr && dot < slash)) return kKindOther;
-  if (equals_ignoring_ascii_case(dot, ".CSV")) return kKindCsv;
-  if (equals_ignoring_ascii_case(dot, ".TXT")) return kKindTxt;
+  if (kiln::unicode::equal_ignoring_ascii_case(dot, ".CSV")) return kKindCsv;
+  if (kiln::unicode::equal_ignoring_ascii_case(dot, ".TXT")) return kKindTxt;
   return kKindOther;
 }
 
@@ -52,9 +45,9 @@ int KILNUTIL_DetectEncoding_GetSet_BufferSize(int set, double* value, int kind) 
   if (set != 0 && *value < 0) return -1;
   if (kind < 0 || kind >= kKindCount) return -1;
   if (set != 0) {
-    g_detect_buffer_sizes[kind] = to_unsigned_64(*value);
+    g_detect_buffer_sizes[kind].store(to_unsigned_64(*value));
   } else {
-    *value = static_cast<double>(g_detect_buffer_sizes[kind]);
+    *value = static_cast<double>(g_detect_buffer_sizes[kind].load());
   }
   return 0;
 }

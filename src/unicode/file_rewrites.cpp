@@ -1,8 +1,8 @@
 #include "unicode/file_rewrites.h"
 
 #include "unicode/code_page_text.h"
-#include "unicode/file_bytes.h"
-#include "unicode/file_replacement.h"
+#include "platform/file_bytes.h"
+#include "platform/file_replacement.h"
 
 #include <kilnutil/unicode.h>
 
@@ -11,6 +11,13 @@
 #include <cstring>
 
 namespace kiln::unicode {
+
+using platform::FileBytes;
+using platform::read_whole_file;
+using platform::ReadStatus;
+using platform::replace_file;
+using platform::ReplaceStatus;
+using platform::stream_size;
 
 namespace {
 
@@ -47,7 +54,8 @@ int conversion_rewrite_code(ReplaceStatus status) {
 // Whole-file conversion: UTF-8 after the mark, through UTF-16, into the code page.
 int convert_in_memory(const char* path, unsigned code_page) {
   FileBytes file;
-  if (const ReadStatus status = read_whole_file(path, file); status != ReadStatus::kOk) return read_failure_code(status);
+  if (const ReadStatus status = read_whole_file(path, file); status != ReadStatus::kOk)
+    return read_failure_code(status);
   if (!has_utf8_mark(file.data.get(), file.size)) return kRewriteNoMark;
   if (file.size - 3 > 0x7FFFFFFF) return kRewriteNotUtf16Convertible;
   const char* text = reinterpret_cast<const char*>(file.data.get()) + 3;
@@ -149,7 +157,8 @@ using namespace kiln::unicode;
 
 int InsertUTF8BOM(const char* path, int only_if_non_ascii) {
   FileBytes file;
-  if (const ReadStatus status = read_whole_file(path, file); status != ReadStatus::kOk) return read_failure_code(status);
+  if (const ReadStatus status = read_whole_file(path, file); status != ReadStatus::kOk)
+    return read_failure_code(status);
   const unsigned char* bytes = file.data.get();
   if (has_utf8_mark(bytes, file.size)) return 0;
   if (only_if_non_ascii != 0 && std::all_of(bytes, bytes + file.size, [](unsigned char b) { return b < 0x80; })) {

@@ -3,21 +3,21 @@
 // FileReplacement, so a failure never damages the original.
 #pragma once
 
-#include <kilnutil/export.h>
+#include <kilnutil/unicode.h>
 
 namespace kiln::unicode {
 
 // Result codes of the rewrites.
-inline constexpr int kRewriteShortWrite = -321;
-inline constexpr int kRewriteCantWrite = -322;
-inline constexpr int kRewriteNotUtf16Convertible = -323;
-inline constexpr int kRewriteNoMark = -324;
-inline constexpr int kRewriteShortRead = -325;
-inline constexpr int kRewriteNoMemoryForText = -326;
-inline constexpr int kRewriteNoMemoryForFile = -327;
-inline constexpr int kRewriteEmptyFile = -328;
-inline constexpr int kRewriteCantOpen = -329;
-inline constexpr int kRewriteCodePageFails = -330;
+inline constexpr int kRewriteShortWrite = KILNUTIL_REWRITE_SHORT_WRITE;
+inline constexpr int kRewriteCantWrite = KILNUTIL_REWRITE_CANT_WRITE;
+inline constexpr int kRewriteNotUtf16Convertible = KILNUTIL_REWRITE_NOT_UTF16_CONVERTIBLE;
+inline constexpr int kRewriteNoMark = KILNUTIL_REWRITE_NO_MARK;
+inline constexpr int kRewriteShortRead = KILNUTIL_REWRITE_SHORT_READ;
+inline constexpr int kRewriteNoMemoryForText = KILNUTIL_REWRITE_NO_MEMORY_FOR_TEXT;
+inline constexpr int kRewriteNoMemoryForFile = KILNUTIL_REWRITE_NO_MEMORY_FOR_FILE;
+inline constexpr int kRewriteEmptyFile = KILNUTIL_REWRITE_EMPTY_FILE;
+inline constexpr int kRewriteCantOpen = KILNUTIL_REWRITE_CANT_OPEN;
+inline constexpr int kRewriteCodePageFails = KILNUTIL_REWRITE_CODE_PAGE_FAILS;
 
 // Files of this size and more are converted one character at a time.
 inline constexpr long long kStreamingConversionSize = 0x40000000;

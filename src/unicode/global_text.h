@@ -14,7 +14,8 @@ namespace kiln::unicode {
 class LockedBlock {
 public:
   explicit LockedBlock(HGLOBAL handle)
-      : handle_(handle), data_(handle != nullptr ? GlobalLock(handle) : nullptr),
+      : handle_(handle),
+        data_(handle != nullptr ? GlobalLock(handle) : nullptr),
         size_(data_ != nullptr ? GlobalSize(handle) : 0) {}
   ~LockedBlock() { unlock(); }
   LockedBlock(const LockedBlock&) = delete;

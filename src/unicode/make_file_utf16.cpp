@@ -1,20 +1,24 @@
 // Making a file UTF-16 little-endian: a missing file is created (with its
 // folders) holding the mark FF FE; an empty one gets the mark; code-page text
 // without a mark is rewritten as UTF-16; anything else is left alone.
+#include "platform/file_system.h"
 #include "unicode/code_page_text.h"
 #include "unicode/encoding_detect.h"
-#include "unicode/file_bytes.h"
-#include "unicode/file_replacement.h"
+#include "platform/file_bytes.h"
+#include "platform/file_replacement.h"
 
 #include <kilnutil/unicode.h>
 
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <cerrno>
 #include <string>
 
 namespace kiln::unicode {
+
+using platform::FileBytes;
+using platform::read_whole_file;
+using platform::ReadStatus;
+using platform::replace_file;
+using platform::ReplaceStatus;
+using platform::stream_size;
 
 namespace {
 
@@ -34,9 +38,10 @@ std::string utf8_path(const KILN_WCHAR* path) {
 void make_folders_for(const std::string& path) {
   const size_t last = path.find_last_of('/');
   if (last == std::string::npos || last == 0) return;
-  for (size_t slash = path.find('/', 1); slash != std::string::npos && slash <= last; slash = path.find('/', slash + 1)) {
+  for (size_t slash = path.find('/', 1); slash != std::string::npos && slash <= last;
+       slash = path.find('/', slash + 1)) {
     const std::string folder = path.substr(0, slash);
-    if (mkdir(folder.c_str(), 0777) != 0 && errno != EEXIST) return;
+    if (!platform::make_folder(folder.c_str())) return;
   }
 }
 
@@ -51,18 +56,18 @@ void rewrite_as_utf16(const std::string& path) {
   if (file.size >= 2 && file.data[0] == 0xFF && file.data[1] == 0xFE) return;
   if (file.size > 0x7FFFFFFF) return;
   WideScratch units;
-  const int count =
-      to_wide(resolve_code_page(-1), reinterpret_cast<const char*>(file.data.get()), static_cast<int>(file.size), units);
+  const int count = to_wide(resolve_code_page(-1), reinterpret_cast<const char*>(file.data.get()),
+                            static_cast<int>(file.size), units);
   if (count == 0) return;
-  replace_file(path.c_str(), {{kUtf16LeMark, sizeof kUtf16LeMark},
-                              {units.data(), static_cast<size_t>(count) * sizeof(KILN_WCHAR)}});
+  replace_file(path.c_str(),
+               {{kUtf16LeMark, sizeof kUtf16LeMark}, {units.data(), static_cast<size_t>(count) * sizeof(KILN_WCHAR)}});
 }
 
 }  // namespace
 
 static int make_file_utf16(const std::string& path) {
   if (path.empty()) return 0;
-  if (access(path.c_str(), F_OK) != 0) {
+  if (!platform::file_exists(path.c_str())) {
     make_folders_for(path);
     return write_mark_only(path) ? 1 : 0;
   }
@@ -93,6 +98,6 @@ void make_file_UTF16(const char* path, int delete_first) {
   if (path == nullptr) return;
   kiln::unicode::WideScratch units;
   if (kiln::unicode::to_wide(kiln::platform::kCodePageUtf8, path, -1, units) == 0) return;
-  if (delete_first != 0) unlink(path);
+  if (delete_first != 0) kiln::platform::remove_file(path);
   KILNUTIL_MakeFileUTF16(units.data());
 }

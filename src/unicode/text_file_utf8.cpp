@@ -5,23 +5,21 @@
 // chunk at a time; code-page text is converted whole in memory.
 #include "unicode/code_page_text.h"
 #include "unicode/encoding_detect.h"
-#include "unicode/file_bytes.h"
+#include "platform/file_bytes.h"
+#include "platform/file_system.h"
 #include "unicode/global_text.h"
 #include "unicode/text_file_utf8.h"
 #include "unicode/utf16_stream_to_utf8.h"
 
 #include <kilnutil/unicode.h>
 
-#include <fcntl.h>
-#include <sys/types.h>
-#include <unistd.h>
-
-#include <cstdlib>
 #include <cstring>
 #include <string>
 #include <vector>
 
 namespace kiln::unicode {
+
+using platform::stream_size;
 
 namespace {
 
@@ -54,7 +52,7 @@ HGLOBAL read_after_mark(FILE* stream, long long length, unsigned mark_size, size
   HGLOBAL block = GlobalAlloc(GHND, size + 2);
   if (block == nullptr) return nullptr;
   LockedBlock locked(block);
-  if (locked.data() == nullptr || fseeko(stream, mark_size, SEEK_SET) != 0) {
+  if (locked.data() == nullptr || !platform::seek_stream(stream, mark_size)) {
     locked.unlock();
     GlobalFree(block);
     return nullptr;
@@ -63,34 +61,25 @@ HGLOBAL read_after_mark(FILE* stream, long long length, unsigned mark_size, size
   return block;
 }
 
-// A new empty file in $TMPDIR (else /tmp) named VU8...; -1 when none can be made.
-int create_temporary_file(std::string& path) {
-  const char* folder = std::getenv("TMPDIR");
-  if (folder == nullptr || *folder == '\0') folder = "/tmp";
-  std::string pattern = std::string(folder) + "/VU8XXXXXX";
-  std::vector<char> name(pattern.begin(), pattern.end());
-  name.push_back('\0');
-  const int descriptor = mkostemp(name.data(), O_CLOEXEC);
-  if (descriptor >= 0) path = name.data();
-  return descriptor;
-}
-
 const char* converted_copy_mode(const TextFileToUTF8Context* context) {
   if (context->binary_reopen) return "rb";
   return context->utf8_text_mode ? "rt, ccs=UTF-8" : "rt";
+}
+
+void discard_copy(TextFileToUTF8Context* context, FILE* copy, const std::string& path) {
+  if (copy != nullptr) std::fclose(copy);
+  platform::remove_file(path.c_str());
+  context->temp_path[0] = 0;
 }
 
 // Creates the temporary copy, open for writing, with its path recorded in
 // the context and the mark the context asks for written; null (nothing left
 // behind) when no copy can be made.
 FILE* start_copy(TextFileToUTF8Context* context, std::string& path) {
-  const int descriptor = create_temporary_file(path);
-  FILE* copy = descriptor >= 0 ? fdopen(descriptor, "wb") : nullptr;
+  FILE* copy = platform::create_temporary_file(platform::temporary_folder(), "VU8", path);
   set_temporary_path(context, copy != nullptr ? path.c_str() : nullptr);
   if (copy == nullptr || temporary_path_of(context) != path) {
-    if (copy != nullptr) std::fclose(copy);
-    else if (descriptor >= 0) close(descriptor);
-    if (descriptor >= 0) unlink(path.c_str());
+    if (copy != nullptr) discard_copy(context, copy, path);
     context->temp_path[0] = 0;
     return nullptr;
   }
@@ -100,12 +89,6 @@ FILE* start_copy(TextFileToUTF8Context* context, std::string& path) {
     context->mark_size = sizeof kUtf8Mark;
   }
   return copy;
-}
-
-void discard_copy(TextFileToUTF8Context* context, FILE* copy, const std::string& path) {
-  if (copy != nullptr) std::fclose(copy);
-  unlink(path.c_str());
-  context->temp_path[0] = 0;
 }
 
 // Closes the written copy and the source and opens the copy for reading; a
@@ -143,7 +126,7 @@ FILE* copy_code_page_text(TextFileToUTF8Context* context, FILE* stream, long lon
 // UTF-16 little-endian text: converted a chunk at a time straight into the
 // copy, so the file is never held in memory whole.
 FILE* copy_utf16_text(TextFileToUTF8Context* context, FILE* stream, long long length, unsigned mark_size) {
-  if (fseeko(stream, mark_size, SEEK_SET) != 0) return reopen_with_fallback(context, nullptr, stream);
+  if (!platform::seek_stream(stream, mark_size)) return reopen_with_fallback(context, nullptr, stream);
   std::string path;
   FILE* copy = start_copy(context, path);
   if (copy == nullptr) return reopen_with_fallback(context, nullptr, stream);
@@ -167,16 +150,16 @@ FILE* open_text_file_as_utf8(FILE* stream, TextFileToUTF8Context* context) {
   const unsigned code = detect_stream_encoding(stream, max_bytes, context->guess ? 0 : kDetectMarkOnly);
   const auto mark_size = static_cast<unsigned>(KILNUTIL_GetBOMSize(code));
   context->mark_size = static_cast<unsigned char>(mark_size);
-  fseeko(stream, mark_size, SEEK_SET);
+  platform::seek_stream(stream, mark_size);
   const unsigned family = encoding_family(code);
 
   if (family == kEncodingUtf8 || context->no_conversion) {
-    if (context->keep_mark) fseeko(stream, 0, SEEK_SET);
+    if (context->keep_mark) platform::seek_stream(stream, 0);
     if (!context->reopen_as_utf8) return stream;
     std::fclose(stream);
     return KILNUTIL_UTF8_fopen(context->path, "rt, ccs=UTF-8");
   }
-  fseeko(stream, 0, SEEK_SET);
+  platform::seek_stream(stream, 0);
   // Big-endian text is not converted.
   if (family == kEncodingUtf16Be) return stream;
 
@@ -192,7 +175,7 @@ void close_text_file_as_utf8(FILE* stream, TextFileToUTF8Context* context) {
   if (stream != nullptr) std::fclose(stream);
   if (context == nullptr || stream == nullptr || stream != context->converted_stream) return;
   const std::string path = temporary_path_of(context);
-  if (!path.empty()) unlink(path.c_str());
+  if (!path.empty()) platform::remove_file(path.c_str());
   context->converted_stream = nullptr;
   context->temp_path[0] = 0;
 }

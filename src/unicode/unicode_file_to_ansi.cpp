@@ -5,13 +5,17 @@
 // UTF-16 little-endian.
 #include "unicode/code_page_text.h"
 #include "unicode/encoding_detect.h"
-#include "unicode/file_bytes.h"
+#include "platform/file_bytes.h"
 
 #include <kilnutil/unicode.h>
 
 #include <cstring>
 
 namespace kiln::unicode {
+
+using platform::FileBytes;
+using platform::read_whole_file;
+using platform::ReadStatus;
 
 bool looks_like_utf16_text(const unsigned char* bytes, size_t size) {
   if (size < 2) return false;

@@ -4,6 +4,7 @@
 // walk can test 32 bytes at a time for ASCII without reading past the
 // terminator; elsewhere it steps by the lenient rule, whose NUL tests keep it
 // inside the string.
+#include "platform/bits.h"
 #include "unicode/utf8.h"
 
 #include <kilnutil/unicode.h>
@@ -13,16 +14,10 @@
 
 namespace {
 
-constexpr std::uint64_t kHighBits = 0x8080808080808080ull;
-
-std::uint64_t load_word(const unsigned char* p) {
-  std::uint64_t word;
-  std::memcpy(&word, p, sizeof word);
-  return word;
-}
+using kiln::platform::load_word;
 
 bool all_ascii_32(const unsigned char* p) {
-  return ((load_word(p) | load_word(p + 8) | load_word(p + 16) | load_word(p + 24)) & kHighBits) == 0;
+  return !kiln::platform::has_high_byte(load_word(p) | load_word(p + 8) | load_word(p + 16) | load_word(p + 24));
 }
 
 }  // namespace

@@ -1,13 +1,10 @@
-// File opening with UTF-8 paths. POSIX paths are UTF-8 already, so these call
-// fopen, open and access directly; what the wide Windows calls would refuse
+// File opening with UTF-8 paths. The platform's paths are UTF-8 already, so
+// these open and test the path as given; what the wide Windows calls would refuse
 // (a path or mode longer than their fixed buffers) is refused the same way.
+#include "platform/file_system.h"
 #include "unicode/code_page_text.h"
 
 #include <kilnutil/unicode.h>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <cerrno>
 #include <cstdint>
@@ -32,7 +29,12 @@ std::string stdio_mode(const char* mode) {
   std::string result;
   for (const char* p = mode; *p != '\0' && *p != ','; ++p) {
     switch (*p) {
-      case 'r': case 'w': case 'a': case '+': case 'b': case 'x': result += *p; break;
+      case 'r':
+      case 'w':
+      case 'a':
+      case '+':
+      case 'b':
+      case 'x': result += *p; break;
       case 'N': result += 'e'; break;
       default: break;
     }
@@ -47,17 +49,17 @@ constexpr unsigned kGenericAll = 0x10000000u;
 constexpr unsigned kCreateNew = 1, kCreateAlways = 2, kOpenExisting = 3, kOpenAlways = 4, kTruncateExisting = 5;
 constexpr unsigned kAttributeReadOnly = 0x1u;
 
-int open_flags(unsigned access, unsigned disposition) {
-  const bool reads = (access & (kGenericRead | kGenericAll)) != 0;
-  const bool writes = (access & (kGenericWrite | kGenericAll)) != 0;
-  int flags = O_CLOEXEC | (reads && writes ? O_RDWR : writes ? O_WRONLY : O_RDONLY);
+using kiln::platform::OpenRule;
+
+// The creation rule of a CreateFileW disposition; false for an unknown one.
+bool open_rule(unsigned disposition, OpenRule& rule) {
   switch (disposition) {
-    case kCreateNew: return flags | O_CREAT | O_EXCL;
-    case kCreateAlways: return flags | O_CREAT | O_TRUNC;
-    case kOpenExisting: return flags;
-    case kOpenAlways: return flags | O_CREAT;
-    case kTruncateExisting: return flags | O_TRUNC;
-    default: return -1;
+    case kCreateNew: rule = OpenRule::kCreateNew; return true;
+    case kCreateAlways: rule = OpenRule::kCreateAlways; return true;
+    case kOpenExisting: rule = OpenRule::kOpenExisting; return true;
+    case kOpenAlways: rule = OpenRule::kOpenAlways; return true;
+    case kTruncateExisting: rule = OpenRule::kTruncateExisting; return true;
+    default: return false;
   }
 }
 
@@ -71,16 +73,18 @@ FILE* KILNUTIL_UTF8_fopen(const char* path, const char* mode) {
   return std::fopen(path, stdio_mode(mode).c_str());
 }
 
-HANDLE KILNUTIL_UTF8_CreateFile(const char* path, unsigned int access, unsigned int /*share_mode*/,
-                                void* /*security*/, unsigned int disposition, unsigned int flags_and_attributes,
-                                HANDLE /*template_file*/) {
-  const int flags = open_flags(access, disposition);
-  if (!fits_wide_buffer(path, kPathUnits) || flags < 0) {
-    errno = flags < 0 ? EINVAL : ENOENT;
+HANDLE KILNUTIL_UTF8_CreateFile(const char* path, unsigned int access, unsigned int /*share_mode*/, void* /*security*/,
+                                unsigned int disposition, unsigned int flags_and_attributes, HANDLE /*template_file*/) {
+  OpenRule rule = OpenRule::kOpenExisting;
+  const bool known_rule = open_rule(disposition, rule);
+  if (!fits_wide_buffer(path, kPathUnits) || !known_rule) {
+    errno = !known_rule ? EINVAL : ENOENT;
     return INVALID_HANDLE_VALUE;
   }
-  const mode_t permissions = (flags_and_attributes & kAttributeReadOnly) ? 0444 : 0666;
-  const int descriptor = open(path, flags, permissions);
+  const bool reads = (access & (kGenericRead | kGenericAll)) != 0;
+  const bool writes = (access & (kGenericWrite | kGenericAll)) != 0;
+  const bool read_only = (flags_and_attributes & kAttributeReadOnly) != 0;
+  const int descriptor = kiln::platform::open_file_descriptor(path, reads, writes, rule, read_only);
   if (descriptor < 0) return INVALID_HANDLE_VALUE;
   return reinterpret_cast<HANDLE>(static_cast<intptr_t>(descriptor));
 }
@@ -90,11 +94,11 @@ int KILNUTIL_UTF8__access(const char* path, int mode) {
     errno = ENOENT;
     return -1;
   }
-  // The runtime's modes 0 (exists), 2 (write), 4 (read) and 6 are access()'s
-  // F_OK, W_OK and R_OK; other bits are refused as the runtime refuses them.
+  // The runtime's modes are 0 (exists), 2 (write), 4 (read) and 6; other
+  // bits are refused as the runtime refuses them.
   if ((mode & ~6) != 0) {
     errno = EINVAL;
     return -1;
   }
-  return access(path, mode);
+  return kiln::platform::test_file_access(path, mode);
 }

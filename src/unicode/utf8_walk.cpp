@@ -19,9 +19,7 @@ extern "C" {
 
 char* KILNUTIL_UNICODE_UTF8_adv_str(const char* s) { return mutable_position(utf8_advance(s)); }
 
-char* KILNUTIL_UNICODE_UTF8_go_back_in_str(const char* p) {
-  return mutable_position(kiln::unicode::utf8_go_back(p));
-}
+char* KILNUTIL_UNICODE_UTF8_go_back_in_str(const char* p) { return mutable_position(kiln::unicode::utf8_go_back(p)); }
 
 unsigned int KILNUTIL_UNICODE_UTF8_get_char(const char* s) {
   int length;
@@ -35,9 +33,7 @@ unsigned int KILNUTIL_UNICODE_UTF8_get_char_adv_str(const char** ps) {
   return cp;
 }
 
-char* KILNUTIL_UNICODE_UTF8_setc(char* out, unsigned int cp) {
-  return out + kiln::unicode::utf8_encode(cp, out);
-}
+char* KILNUTIL_UNICODE_UTF8_setc(char* out, unsigned int cp) { return out + kiln::unicode::utf8_encode(cp, out); }
 
 int KILNUTIL_UNICODE_UTF8_get_char_length(unsigned int cp, char* buf) {
   char scratch[4];

@@ -30,8 +30,8 @@ TEST(CalendarRoundTrip, EveryDayFrom0100To9999) {
     const SYSTEMTIME in = system_time(y, m, d, 13, 5, 7, 250);
     double value = 0;
     ASSERT_EQ(SystemTimeToJulianDate(&value, &in, nullptr), 1) << y << "-" << m << "-" << d;
-    const double expected = static_cast<double>(day - days_from_civil(1899, 12, 30)) + 2415018.0 +
-                            ((13 * 60 + 5) * 60 + 7.25) / 86400.0;
+    const double expected =
+        static_cast<double>(day - days_from_civil(1899, 12, 30)) + 2415018.0 + ((13 * 60 + 5) * 60 + 7.25) / 86400.0;
     if (value != expected && ++failures < 5) ADD_FAILURE() << y << "-" << m << "-" << d;
     SYSTEMTIME out{};
     ASSERT_EQ(JulianDateToSystemTime(&value, &out, nullptr, 0), 1);
@@ -76,12 +76,15 @@ TEST(CalendarRange, BoundsOfTheSerialDays) {
 // Known dates in each date system: the default offset, spreadsheet serials
 // from 1899-12-30 and 1904-01-01, and astronomical Julian dates.
 TEST(ReferenceDates, EverySystem) {
-  const struct { int system, y, m, d, h; double expected; } cases[] = {
-      {0, 1899, 12, 30, 0, 2415018.0}, {0, 2000, 1, 1, 12, 2451544.5}, {0, 2000, 1, 1, 0, 2451544.0},
-      {101, 1899, 12, 30, 0, 0.0},     {101, 1900, 3, 1, 0, 61.0},     {101, 2000, 1, 1, 0, 36526.0},
-      {101, 2024, 2, 29, 18, 45351.75}, {1904, 1904, 1, 1, 0, 0.0},    {1904, 2000, 1, 1, 0, 35064.0},
-      {1, 1899, 12, 30, 0, 2415018.5}, {1, 2000, 1, 1, 12, 2451545.0},  // J2000.0
-      {1, 1858, 11, 17, 0, 2400000.5},  // modified Julian day 0
+  const struct {
+    int system, y, m, d, h;
+    double expected;
+  } cases[] = {
+      {0, 1899, 12, 30, 0, 2415018.0},  {0, 2000, 1, 1, 12, 2451544.5}, {0, 2000, 1, 1, 0, 2451544.0},
+      {101, 1899, 12, 30, 0, 0.0},      {101, 1900, 3, 1, 0, 61.0},     {101, 2000, 1, 1, 0, 36526.0},
+      {101, 2024, 2, 29, 18, 45351.75}, {1904, 1904, 1, 1, 0, 0.0},     {1904, 2000, 1, 1, 0, 35064.0},
+      {1, 1899, 12, 30, 0, 2415018.5},  {1, 2000, 1, 1, 12, 2451545.0},  // J2000.0
+      {1, 1858, 11, 17, 0, 2400000.5},                                   // modified Julian day 0
       {1, 1970, 1, 1, 0, 2440587.5},
   };
   for (const auto& c : cases) {
@@ -95,9 +98,9 @@ TEST(FieldChecks, TwoDigitYearsAndInvalidFields) {
   EXPECT_EQ(date_value(45, 1, 1), date_value(1945, 1, 1));
   EXPECT_EQ(date_value(99, 1, 1), date_value(1999, 1, 1));
   // A refused conversion leaves its placeholder value.
-  for (const SYSTEMTIME& invalid : {system_time(1900, 2, 29), system_time(2000, 1, 0), system_time(2000, 13, 1),
-                                    system_time(10000, 1, 1), system_time(2000, 1, 1, 24),
-                                    system_time(2000, 1, 1, 0, 0, 60)}) {
+  for (const SYSTEMTIME& invalid :
+       {system_time(1900, 2, 29), system_time(2000, 1, 0), system_time(2000, 13, 1), system_time(10000, 1, 1),
+        system_time(2000, 1, 1, 24), system_time(2000, 1, 1, 0, 0, 60)}) {
     double value = 0;
     EXPECT_EQ(SystemTimeToJulianDate(&value, &invalid, nullptr), 0) << invalid.wYear << "-" << invalid.wMonth;
     EXPECT_EQ(value, 2451323.4653704);
@@ -141,8 +144,10 @@ TEST(CalendarRules, LeapYearsAndMonthLengths) {
   for (const auto& [year, leap] : {std::pair{1900, 0}, {2000, 1}, {2024, 1}, {2023, 0}}) {
     EXPECT_EQ(KILNUTIL_IsLeapYear(static_cast<unsigned short>(year)), leap) << year;
   }
-  const struct { int month, year, days; } lengths[] = {
-      {1, 0, 28}, {1, -1, 29}, {1, 2000, 29}, {1, 1900, 28}, {12, 2000, 0}, {3, 2000, 30}, {11, -5, 31}};
+  const struct {
+    unsigned short month;
+    int year, days;
+  } lengths[] = {{1, 0, 28}, {1, -1, 29}, {1, 2000, 29}, {1, 1900, 28}, {12, 2000, 0}, {3, 2000, 30}, {11, -5, 31}};
   for (const auto& c : lengths) {
     EXPECT_EQ(KILNUTIL_GetNumDaysInMonth(c.month, c.year), c.days) << c.month << " " << c.year;
   }
@@ -154,7 +159,9 @@ TEST(CalendarRules, DayOfYearHelpers) {
   EXPECT_EQ(KILNUTIL_GetDayOfYearFromMonthAndDayOfMonth(2024, 1, 5), 34);
   EXPECT_EQ(KILNUTIL_GetDayOfYearFromMonthAndDayOfMonth(2023, 3, 1), 91);  // 30 x 3 + 1
 
-  struct Case { int year, day_of_year, month, day; };
+  struct Case {
+    int year, day_of_year, month, day;
+  };
   for (const Case& c : {Case{2023, 0, 0, 1}, Case{2023, 31, 0, 31}, Case{2024, 60, 1, 29}, Case{2023, 60, 2, 1},
                         Case{2024, 61, 2, 1}, Case{2024, 366, 11, 31}, Case{2023, 400, 11, 31}}) {
     int month = -1, day = -1;

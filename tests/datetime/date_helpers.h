@@ -35,7 +35,7 @@ inline double date_value(int y, int m, int d, int h = 0, int mi = 0, int s = 0) 
 
 // Makes a date system active for one test and restores the default after.
 class DateSystemScope {
- public:
+public:
   explicit DateSystemScope(int code) { DateTime_DateSys(1, code); }
   ~DateSystemScope() { DateTime_DateSys(1, 0); }
 };

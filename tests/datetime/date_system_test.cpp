@@ -16,8 +16,9 @@ using namespace date_test;
 // Unknown codes and modes answer the active offset.
 TEST(DateSystems, OffsetsByCode) {
   const std::pair<int, double> cases[] = {
-      {0, 2415018.0}, {1, 2415018.5}, {101, 0.0},  {1904, -1462.0}, {1900, -2.0},
-      {2099, -static_cast<double>(serial_of(2099, 1, 1))}, {2100, 2415018.0}, {-1, 2415018.0},
+      {0, 2415018.0},    {1, 2415018.5},  {101, 0.0},
+      {1904, -1462.0},   {1900, -2.0},    {2099, -static_cast<double>(serial_of(2099, 1, 1))},
+      {2100, 2415018.0}, {-1, 2415018.0},
   };
   for (const auto& [code, offset] : cases) EXPECT_EQ(DateTime_DateSys(0, code), offset) << code;
   EXPECT_EQ(DateTime_DateSys(7, 1), 2415018.0);
@@ -41,12 +42,21 @@ TEST(DateSystems, SixPmIsTodayAtSixOClock) {
 // Names ignore case; a null or empty name, like "Active", is the active
 // system; years outside 1900..2099 and other names are unknown.
 TEST(DateSystems, OffsetsByName) {
-  const struct { const char* from; const char* to; double offset; } cases[] = {
-      {"1899-12-30", "JulianDate", 2415018.5}, {"JulianDate", "julianDATE", 0.0},
-      {"1899", "JulianDate", KILNUTIL_NANUM},  {"1904", "1899-12-30", 1462.0},
-      {"vela-juliandate", "1904", -1462.0 - 2415018.0}, {nullptr, "JulianDate", 0.5},
-      {"", "Active", 0.0},                     {"Active", "Vela-JulianDate", 0.0},
-      {"1904x", "Active", KILNUTIL_NANUM},     {"x1904", "Active", KILNUTIL_NANUM},
+  const struct {
+    const char* from;
+    const char* to;
+    double offset;
+  } cases[] = {
+      {"1899-12-30", "JulianDate", 2415018.5},
+      {"JulianDate", "julianDATE", 0.0},
+      {"1899", "JulianDate", KILNUTIL_NANUM},
+      {"1904", "1899-12-30", 1462.0},
+      {"vela-juliandate", "1904", -1462.0 - 2415018.0},
+      {nullptr, "JulianDate", 0.5},
+      {"", "Active", 0.0},
+      {"Active", "Vela-JulianDate", 0.0},
+      {"1904x", "Active", KILNUTIL_NANUM},
+      {"x1904", "Active", KILNUTIL_NANUM},
       {"2100", "Active", KILNUTIL_NANUM},
   };
   for (const auto& c : cases) {

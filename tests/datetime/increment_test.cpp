@@ -12,7 +12,12 @@ namespace {
 using namespace date_test;
 
 TEST(IncrementDate, MonthsClampTheDayAndKeepTheTime) {
-  const struct { double from; char unit; int count; double to; } cases[] = {
+  const struct {
+    double from;
+    char unit;
+    int count;
+    double to;
+  } cases[] = {
       {date_value(2021, 1, 31, 10, 20, 30), 'm', 1, date_value(2021, 2, 28, 10, 20, 30)},
       {date_value(2021, 1, 31), 'q', 1, date_value(2021, 4, 30)},
       {date_value(2020, 2, 29), 'y', 1, date_value(2021, 2, 28)},
@@ -50,7 +55,13 @@ TEST(IncrementDate, OneCarryOnlyAndRefusals) {
 
 // Years-type values count years of 360 days; the flag says forward.
 TEST(IncrementYearsType, ThreeHundredSixtyDayYear) {
-  const struct { double from; char unit; int count; bool forward; double to; } cases[] = {
+  const struct {
+    double from;
+    char unit;
+    int count;
+    bool forward;
+    double to;
+  } cases[] = {
       {2000, 'd', 36, true, 2000.1}, {0, 'd', 1, true, 0.0027777777777777775},
       {10, 'q', 2, false, 9.5},      {9.5, 'm', 6, true, 10.0},
       {10, 'y', 3, false, 7.0},
@@ -68,7 +79,13 @@ TEST(IncrementYearsType, ThreeHundredSixtyDayYear) {
 // Rounds to the start of the calendar unit of the increment (months for 30
 // days, years for 90) when within tolerance percent of the increment.
 TEST(CalendarRounding, ToMonthStartsWithinTolerance) {
-  const struct { double from; double increment; int tolerance; bool rounded; double to; } cases[] = {
+  const struct {
+    double from;
+    double increment;
+    int tolerance;
+    bool rounded;
+    double to;
+  } cases[] = {
       {date_value(2021, 3, 1, 6), 30, 5, true, date_value(2021, 3, 1)},
       {date_value(2021, 3, 20), 30, 5, false, date_value(2021, 3, 20)},
       {date_value(2021, 3, 30), 30, 7, true, date_value(2021, 4, 1)},  // 2 days short: 6.7% of 30 days

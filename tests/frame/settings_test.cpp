@@ -207,7 +207,7 @@ TEST(OutputIndent, StepsInAndOut) {
   EXPECT_STREQ(KILNUTIL_access_quill_output_indent(0), "");
 }
 
-class FakeHost : public KilnHostAccess {
+class FakeHost final : public KilnHostAccess {
 public:
   int host_operation1() override { return -1; }
   int host_operation2() override { return -1; }
@@ -223,8 +223,8 @@ public:
 };
 
 TEST(HostAccess, GuiSwitchesGoToTheRegisteredObject) {
-  EXPECT_EQ(KILNUTIL_enable_vela_gui(1), 0);      // no object: nothing happens
-  EXPECT_EQ(KILNUTIL_is_vela_gui_enabled(), 1);   // no object: enabled
+  EXPECT_EQ(KILNUTIL_enable_vela_gui(1), 0);     // no object: nothing happens
+  EXPECT_EQ(KILNUTIL_is_vela_gui_enabled(), 1);  // no object: enabled
   FakeHost host;
   KILNUTIL_set_vkutil_access_obj(&host);
   EXPECT_EQ(KILNUTIL_get_vkutil_access_obj(), &host);

@@ -40,7 +40,9 @@ TEST(TwoByteReader, EmptyStreamGivesFFAndSetsEndOfFile) {
 
 TEST(TwoByteReader, DoubleByteCharacterInCodePage932) {
   CodePageScope scope(932);
-  File f = stream_of("\x82\xA0" "A\xFF\x83");
+  File f = stream_of(
+      "\x82\xA0"
+      "A\xFF\x83");
   EXPECT_EQ(KILNUTIL_fgetc_two(f.get()), 0xA082u);
   EXPECT_EQ(KILNUTIL_fgetc_two(f.get()), 0x0041u);
   EXPECT_EQ(KILNUTIL_fgetc_two(f.get()), 0x00FFu);  // 0xFF is never a lead byte
@@ -51,7 +53,9 @@ TEST(TwoByteReader, DoubleByteCharacterInCodePage932) {
 
 TEST(TwoByteReader, PushBackRestoresTheOriginalByteOrder) {
   CodePageScope scope(932);
-  File f = stream_of("\x82\xA0" "B");
+  File f = stream_of(
+      "\x82\xA0"
+      "B");
   const unsigned c = KILNUTIL_fgetc_two(f.get());
   ASSERT_EQ(c, 0xA082u);
   EXPECT_EQ(KILNUTIL_ungetc_two(c, f.get()), 0x82);
@@ -72,7 +76,10 @@ TEST(TwoByteReader, CodePageChoiceOrder) {
 }
 
 TEST(TwoByteReader, Utf16ModeReadsRawLittleEndianUnits) {
-  File f = stream_of(std::string("\x3D\xD8\x00\xDE" "A", 5));
+  File f =
+      stream_of(std::string("\x3D\xD8\x00\xDE"
+                            "A",
+                            5));
   EXPECT_EQ(KILNUTIL_fgetc_two_new(f.get(), 0x1000), 0xD83Du);  // half a pair
   EXPECT_EQ(KILNUTIL_fgetc_two_new(f.get(), 0x1000 | 0x2), 0xDE00u);
   // One byte left: the stream's end-of-file indicator is set only by the read

@@ -177,14 +177,14 @@ TEST(PartialRequest, SuffixesAndClauses) {
     const char* parts;
   } cases[] = {
       {"1:5 8#", "0:4 #; 7:7 #"},
-      {"1:5/2", "0:4 /2"},                 // the suffix is not read as an item
+      {"1:5/2", "0:4 /2"},  // the suffix is not read as an item
       {"4*3", "3:3 *3"},
-      {"2*3/x", "1:1; 2:2"},               // "/" wins over "*"; no integer after it: no suffix
-      {"/7", "6:6 /7"},                    // with nothing before it, it is an item as well
-      {"1/12345678", "0:0 /12345"},        // six characters at most
+      {"2*3/x", "1:1; 2:2"},         // "/" wins over "*"; no integer after it: no suffix
+      {"/7", "6:6 /7"},              // with nothing before it, it is an item as well
+      {"1/12345678", "0:0 /12345"},  // six characters at most
       {"1:0|yave-1y", "0:-1 yave1y"},
       {"2:30|3-7d|max-q", "1:29 3-7d max1q"},
-      {"4|2-3", "3:3; 1:1; 2:2"},          // without ":" its numbers are plain items
+      {"4|2-3", "3:3; 1:1; 2:2"},  // without ":" its numbers are plain items
   };
   for (const auto& c : cases) EXPECT_EQ(parsed(c.request), c.parts) << c.request;
   ImportFilesPartialParts parts;
@@ -317,6 +317,14 @@ TEST(PartialQueries, PartsArrayThrowsOutOfRange) {
   array = copy;
   EXPECT_EQ(array[0].begin, 9);
   EXPECT_EQ(array.GetSize(), 1);
+  array.Reserve(16);  // capacity only
+  EXPECT_EQ(array.GetSize(), 1);
+  array.SetSize(3);  // new parts are value-initialised
+  EXPECT_EQ(array.GetSize(), 3);
+  EXPECT_EQ(array[2].begin, 0);
+  EXPECT_THROW(array[3], std::out_of_range);
+  array.RemoveAll();
+  EXPECT_EQ(array.GetSize(), 0);
 }
 
 // The wanted rows and columns among the first eight, as "rows/cols".

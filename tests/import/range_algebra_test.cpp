@@ -13,8 +13,8 @@
 namespace {
 
 constexpr int kAll = KILNUTIL_RANGE_ALL;
-constexpr int kGrid = 4;        // finite indices 0..3
-constexpr int kFar = kGrid;     // beyond every finite pair
+constexpr int kGrid = 4;     // finite indices 0..3
+constexpr int kFar = kGrid;  // beyond every finite pair
 
 // Every pairing of row and column pairs: finite, to the end, and the three
 // spellings of "all".
@@ -145,7 +145,8 @@ TEST(RangeAlgebra, BoundingRangeOfClosedRangesIsSmallestBox) {
       ASSERT_TRUE(every_cell([&](int row, int col) {
         return model_has(box, row, col) ==
                (model_box_covers(a.r1, a.r2, b.r1, b.r2, row) && model_box_covers(a.c1, a.c2, b.c1, b.c2, col));
-      })) << show(a) << " + " << show(b);
+      })) << show(a)
+          << " + " << show(b);
     }
   }
 }
@@ -182,7 +183,7 @@ TEST(RangeSpecialValues, MergeComparesMinusOneAsNumber) {
     const char* merged;
   };
   const Case cases[] = {
-      {{1, 0, 3, 2}, {4, 0, 6, 2}, 0, "1,0,3,2"},    // touching only
+      {{1, 0, 3, 2}, {4, 0, 6, 2}, 0, "1,0,3,2"},  // touching only
       {{1, 0, 3, 2}, {3, 0, 6, 2}, 1, "1,0,6,2"},
       {{1, 0, 3, 2}, {2, 0, -1, 2}, 1, "1,0,3,2"},   // the start lies inside, and 3 >= -1 keeps the end
       {{3, 0, -1, 2}, {2, 0, 5, 2}, 1, "2,0,5,2"},   // the open end is lost
@@ -226,6 +227,47 @@ TEST(RangeBuilding, WholeRowColAndEndTests) {
   EXPECT_EQ(KILNUTIL_IsRangeNormalized(&to_end), 0);  // only (0, -1) is a normal open pair
   const CellRange normal{0, 1, -1, 3};
   EXPECT_EQ(KILNUTIL_IsRangeNormalized(&normal), 1);
+}
+
+// Each builder from a range that holds something else, and each one-range
+// query over a few shapes (the pair that is not rebuilt keeps its values).
+TEST(RangeBuilding, BuildersAndShapeQueries) {
+  const struct {
+    const char* what;
+    void (*build)(CellRange*);
+    const char* expected;
+  } builders[] = {
+      {"whole", KILNUTIL_InitRangeWhole, "0,0,-1,-1"},
+      {"row 6", [](CellRange* r) { KILNUTIL_InitRangeRow(r, 6); }, "6,0,6,-1"},
+      {"column 6", [](CellRange* r) { KILNUTIL_InitRangeCol(r, 6); }, "0,6,-1,6"},
+      {"all rows", KILNUTIL_SetRangeAllRows, "0,2,-1,4"},
+      {"all columns", KILNUTIL_SetRangeAllColumns, "1,0,3,-1"},
+      {"all rows and columns", KILNUTIL_SetRangeAllRowsColumns, "0,0,-1,-1"},
+      {"transposed", KILNUTIL_TransposeRange, "2,1,4,3"},
+  };
+  for (const auto& b : builders) {
+    CellRange r{1, 2, 3, 4};
+    b.build(&r);
+    EXPECT_EQ(show(r), b.expected) << b.what;
+    b.build(nullptr);  // a null range is left alone
+  }
+  const struct {
+    CellRange r;
+    int cols_to_end, single_cell;
+  } shapes[] = {
+      {{1, 1, -1, -1}, 1, 0}, {{0, 0, -1, -1}, 0, 0}, {{2, 3, 2, 3}, 0, 1},     {{2, 3, 2, 4}, 0, 0},
+      {{2, 3, 5, 3}, 0, 0},   {{0, 2, 0, -1}, 1, 0},  {{-1, -1, -1, -1}, 0, 1},
+  };
+  for (const auto& c : shapes) {
+    EXPECT_EQ(KILNUTIL_IsRangeColsToEnd(&c.r), c.cols_to_end) << show(c.r);
+    EXPECT_EQ(KILNUTIL_IsRangeSingleCell(&c.r), c.single_cell) << show(c.r);
+    CellRange copy = c.r;
+    EXPECT_EQ(KILNUTIL_AreEqualRanges(&c.r, &copy), 1);
+    copy.c2 += 1;
+    EXPECT_EQ(KILNUTIL_AreEqualRanges(&c.r, &copy), 0);
+  }
+  EXPECT_EQ(KILNUTIL_IsRangeSingleCell(nullptr), 0);
+  EXPECT_EQ(KILNUTIL_AreEqualRanges(nullptr, nullptr), 0);
 }
 
 TEST(RangeBuilding, SelectionConversionSkipsWholeDimensions) {

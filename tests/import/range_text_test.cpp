@@ -29,8 +29,8 @@ TEST(RangeText, ReferenceShapes) {
       {"$1$A:$B$2", "||1|1|2|B"},  // the row digits stand in for the column
       {"$1$2:$B$2", "none"},
       {"$A$B:$B$2", "none"},
-      {"$A$1", "none"},      // no ":"
-      {"A1:$B$2", "none"},   // no "$"
+      {"$A$1", "none"},     // no ":"
+      {"A1:$B$2", "none"},  // no "$"
       {"[Book1$A$1:$B$2", "none"},
   };
   for (const auto& c : cases) EXPECT_EQ(parse(c.text), c.parts) << c.text;

@@ -10,8 +10,11 @@ namespace {
 // Returns the number of escapes expanded; unknown escapes, backslash-zero and a
 // trailing backslash stay as they are.
 TEST(EscapeCodes, ExpandsInPlace) {
-  const struct { const char* text; int count; const char* expanded; } cases[] = {
-      {R"(a\tb\\c\x41\101\q\0)", 4, "a\tb\\cAA\\q\\0"}, {R"(\'\"\?\n)", 4, "'\"?\n"}, {"x\\", 0, "x\\"}};
+  const struct {
+    const char* text;
+    int count;
+    const char* expanded;
+  } cases[] = {{R"(a\tb\\c\x41\101\q\0)", 4, "a\tb\\cAA\\q\\0"}, {R"(\'\"\?\n)", 4, "'\"?\n"}, {"x\\", 0, "x\\"}};
   for (const auto& c : cases) {
     std::string text = c.text;
     EXPECT_EQ(KILNUTIL_expand_C_escape_codes(text.data()), c.count) << c.text;
@@ -23,11 +26,13 @@ TEST(EscapeCodes, ExpandsInPlace) {
 // constant, -2 for more than one character, a signed char's value otherwise.
 TEST(CharConstants, AsciiCharAndSpecialInteger) {
   // error: of the special-integer reader, which leaves it alone on success.
-  struct Case { const char* text; int code, value, error; };
+  struct Case {
+    const char* text;
+    int code, value, error;
+  };
   const Case cases[] = {
-      {"'a'", 1, 'a', 0},   {R"('\n')", 1, 10, 0}, {R"('\0')", 1, 0, 0},
-      {"'ab'", 1, -2, 0},   {"''", 1, -1, -1},     {"'a", 1, -1, -1},
-      {"'\xE9'", 1, -23, 0},  // sign-extended from a signed char
+      {"'a'", 1, 'a', 0}, {R"('\n')", 1, 10, 0}, {R"('\0')", 1, 0, 0},  {"'ab'", 1, -2, 0},
+      {"''", 1, -1, -1},  {"'a", 1, -1, -1},     {"'\xE9'", 1, -23, 0},  // sign-extended from a signed char
   };
   for (const Case& c : cases) {
     int value = 99;

@@ -10,15 +10,20 @@ namespace {
 
 constexpr long long kUnchanged = 99;  // the value a refused text leaves
 
-struct IntegerCase { const char* text; int code; long long value; };
+struct IntegerCase {
+  const char* text;
+  int code;
+  long long value;
+};
 
 TEST(IntegerRule, ZerosSignsAndDigits) {
   const IntegerCase cases[] = {
-      {"0", 1, 0}, {"00", 1, 0}, {"+0", 1, 0}, {"+", 1, 0},
-      {"-0", 0, kUnchanged}, {"-00", 0, kUnchanged}, {"", 0, kUnchanged},
-      {" 5", 0, kUnchanged},  // not trimmed
-      {"5a", 0, kUnchanged}, {"++5", 0, kUnchanged}, {"-5", 1, 4294967291},
-      {"99999999999", 1, 4294967295},  // saturated
+      {"0", 1, 0},           {"00", 1, 0},
+      {"+0", 1, 0},          {"+", 1, 0},
+      {"-0", 0, kUnchanged}, {"-00", 0, kUnchanged},
+      {"", 0, kUnchanged},   {" 5", 0, kUnchanged},  // not trimmed
+      {"5a", 0, kUnchanged}, {"++5", 0, kUnchanged},
+      {"-5", 1, 4294967291}, {"99999999999", 1, 4294967295},  // saturated
   };
   for (const auto& c : cases) {
     unsigned value = kUnchanged;
@@ -32,8 +37,14 @@ TEST(IntegerParser, TrimsAndWraps) {
   const std::string blanks_39(39, ' ');
   const std::string number_40 = std::string(38, ' ') + "12";
   const IntegerCase cases[] = {
-      {"+", 1, 0}, {"-0", 0, kUnchanged}, {"99999999999", 1, -1}, {"3000000000", 1, -1294967296},
-      {"  42\t", 1, 42}, {"   ", 1, 0}, {blanks_39.c_str(), 1, 0}, {number_40.c_str(), 0, kUnchanged},
+      {"+", 1, 0},
+      {"-0", 0, kUnchanged},
+      {"99999999999", 1, -1},
+      {"3000000000", 1, -1294967296},
+      {"  42\t", 1, 42},
+      {"   ", 1, 0},
+      {blanks_39.c_str(), 1, 0},
+      {number_40.c_str(), 0, kUnchanged},
       {"4 2", 0, kUnchanged},
   };
   for (const auto& c : cases) {

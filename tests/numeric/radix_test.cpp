@@ -13,9 +13,14 @@ namespace {
 // Leading blanks and "0x" skipped, saturation at 2^32 - 1, a minus sign
 // negating in 32 bits, parsing up to the first non-digit.
 TEST(Radix, ThirtyTwoBitRuntimeRules) {
-  const std::pair<const char*, unsigned> hex_cases[] = {
-      {"ff", 255u},         {"  0x1Fzz", 31u},           {"123456789", 4294967295u}, {"-1", 4294967295u},
-      {"-10", 4294967280u}, {"-123456789", 4294967295u}, {"0x", 0u},                 {"g", 0u}};
+  const std::pair<const char*, unsigned> hex_cases[] = {{"ff", 255u},
+                                                        {"  0x1Fzz", 31u},
+                                                        {"123456789", 4294967295u},
+                                                        {"-1", 4294967295u},
+                                                        {"-10", 4294967280u},
+                                                        {"-123456789", 4294967295u},
+                                                        {"0x", 0u},
+                                                        {"g", 0u}};
   for (const auto& [text, value] : hex_cases) EXPECT_EQ(KILNUTIL_hexstr2int(text), value) << text;
   EXPECT_EQ(Hex2Dec("7fffffff"), 2147483647u);
   EXPECT_EQ(KILNUTIL_binstr2int("1012"), 5u);
@@ -52,9 +57,17 @@ TEST(HexDecConvert, HexToNumber) {
 }
 
 TEST(HexDecConvert, NumberToHex) {
-  const struct { double number; int digits, code; const char* hex; } cases[] = {
-      {-1, 8, 2, "FFFFFFFFFFFFFFFF"}, {255, 4, 0, "00FF"}, {-16, 20, 0, "FFFFFFFFFFFFFFFFFFF0"},
-      {255.9, 0, 0, "FF"}, {9223372036854775808.0, 65, 0, "8000000000000000"}, {KILNUTIL_NANUM, 4, 1, ""},
+  const struct {
+    double number;
+    int digits, code;
+    const char* hex;
+  } cases[] = {
+      {-1, 8, 2, "FFFFFFFFFFFFFFFF"},
+      {255, 4, 0, "00FF"},
+      {-16, 20, 0, "FFFFFFFFFFFFFFFFFFF0"},
+      {255.9, 0, 0, "FF"},
+      {9223372036854775808.0, 65, 0, "8000000000000000"},
+      {KILNUTIL_NANUM, 4, 1, ""},
   };
   for (const auto& c : cases) {
     char hex[65];

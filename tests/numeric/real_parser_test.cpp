@@ -26,8 +26,10 @@ Parsed parse(const std::string& original, unsigned flags = 1) {
 
 // Sets the decimal separator for one test and puts "." back afterwards.
 class SeparatorScope {
- public:
-  explicit SeparatorScope(const char* separator) { KILNUTIL_cvtstr2real_ex(const_cast<char*>(separator), nullptr, 0, nullptr); }
+public:
+  explicit SeparatorScope(const char* separator) {
+    KILNUTIL_cvtstr2real_ex(const_cast<char*>(separator), nullptr, 0, nullptr);
+  }
   ~SeparatorScope() { KILNUTIL_cvtstr2real_ex(const_cast<char*>("."), nullptr, 0, nullptr); }
 };
 
@@ -35,28 +37,55 @@ constexpr unsigned kStrict = 1;
 constexpr unsigned kLenient = 0;
 constexpr double kUntouched = 12345.0;  // the value a failed parse() leaves
 
-struct Case { const char* text; unsigned flags, code; double value; };
+struct Case {
+  const char* text;
+  unsigned flags, code;
+  double value;
+};
 
 TEST(RealParser, FormsCodesAndValues) {
   const Case cases[] = {
-      {"3", kStrict, 1, 3.0}, {"3.25", kStrict, 2, 3.25}, {"-1.5e3", kStrict, 4, -1500.0},
+      {"3", kStrict, 1, 3.0},
+      {"3.25", kStrict, 2, 3.25},
+      {"-1.5e3", kStrict, 4, -1500.0},
       // The exponent follows the integer rule: "-0" is none, "" is 0.
-      {"1e-0", kStrict, 0, kUntouched}, {"1e0", kStrict, 4, 1.0}, {"1e+0", kStrict, 4, 1.0}, {"1e", kStrict, 4, 1.0},
-      {"e5", kStrict, 0, kUntouched}, {"-E5", kStrict, 0, kUntouched}, {"1e2.5", kStrict, 0, kUntouched},
-      {"1e308", kStrict, 0, kUntouched}, {"1e-308", kStrict, 0, kUntouched}, {"1e307", kStrict, 4, 1e307},
+      {"1e-0", kStrict, 0, kUntouched},
+      {"1e0", kStrict, 4, 1.0},
+      {"1e+0", kStrict, 4, 1.0},
+      {"1e", kStrict, 4, 1.0},
+      {"e5", kStrict, 0, kUntouched},
+      {"-E5", kStrict, 0, kUntouched},
+      {"1e2.5", kStrict, 0, kUntouched},
+      {"1e308", kStrict, 0, kUntouched},
+      {"1e-308", kStrict, 0, kUntouched},
+      {"1e307", kStrict, 4, 1e307},
       {"2.5E-3", kStrict, 4, 2.5 / 1000.0},
       // Signs and blanks.
-      {"", kStrict, 0, kUntouched}, {"   ", kStrict, 0, kUntouched}, {" \t 7", kStrict, 1, 7.0},
-      {"\xE2\x88\x92" "5", kStrict, 1, -5.0},  // U+2212 MINUS SIGN
-      {"\xC3\xA9" "5", kStrict, 0, kUntouched},
-      {"\xC2\xA0" "7", kStrict, 1, 7.0},  // a no-break space is a blank
-      {"+7", kStrict, 1, 7.0}, {"-.5", kStrict, 2, -0.5},
+      {"", kStrict, 0, kUntouched},
+      {"   ", kStrict, 0, kUntouched},
+      {" \t 7", kStrict, 1, 7.0},
+      {"\xE2\x88\x92"
+       "5",
+       kStrict, 1, -5.0},  // U+2212 MINUS SIGN
+      {"\xC3\xA9"
+       "5",
+       kStrict, 0, kUntouched},
+      {"\xC2\xA0"
+       "7",
+       kStrict, 1, 7.0},  // a no-break space is a blank
+      {"+7", kStrict, 1, 7.0},
+      {"-.5", kStrict, 2, -0.5},
       // What may follow the number.
-      {"12 ", kStrict, 1, 12.0}, {"12 x", kStrict, 0, kUntouched}, {"1.5x", kStrict, 0, kUntouched},
-      {"1.5 ", kStrict, 2, 1.5}, {"12 x", kLenient, 1, 12.0}, {"12x", kLenient, 0, kUntouched},
+      {"12 ", kStrict, 1, 12.0},
+      {"12 x", kStrict, 0, kUntouched},
+      {"1.5x", kStrict, 0, kUntouched},
+      {"1.5 ", kStrict, 2, 1.5},
+      {"12 x", kLenient, 1, 12.0},
+      {"12x", kLenient, 0, kUntouched},
       {"1.5x", kLenient, 2, 1.5},
       // Integer parts beyond 8 bytes: the 64-bit conversion, then the digit sum.
-      {"123456789", kStrict, 1, 123456789.0}, {"18446744073709551615", kStrict, 1, 18446744073709551615.0},
+      {"123456789", kStrict, 1, 123456789.0},
+      {"18446744073709551615", kStrict, 1, 18446744073709551615.0},
       {"123456789 ", kStrict, 0, kUntouched},  // the sum refuses the blank
   };
   for (const Case& c : cases) {
@@ -66,7 +95,8 @@ TEST(RealParser, FormsCodesAndValues) {
   // need not be the nearest double.
   double sum = 0;
   const std::string digits = "123456789012345678901234";
-  for (std::size_t i = 0; i < digits.size(); ++i) sum += (digits[i] - '0') * std::pow(10.0, static_cast<double>(digits.size() - i - 1));
+  for (std::size_t i = 0; i < digits.size(); ++i)
+    sum += (digits[i] - '0') * std::pow(10.0, static_cast<double>(digits.size() - i - 1));
   EXPECT_EQ(parse(digits).second, sum);
 
   const Parsed minus = parse("-");

@@ -12,9 +12,8 @@ namespace {
 
 TEST(ExponentTest, SignAndDigitAfterTheMark) {
   const std::pair<const char*, int> cases[] = {
-      {"1E+5", 1}, {"1E5", 0}, {"1D-3", 1}, {"1d-3", 0}, {"1e+", 0},
-      {"1e-.5", 1},  // "." is of the digit class
-      {"Ee-5", 0},   // only the first mark counts
+      {"1E+5", 1}, {"1E5", 0}, {"1D-3", 1}, {"1d-3", 0}, {"1e+", 0}, {"1e-.5", 1},  // "." is of the digit class
+      {"Ee-5", 0},                                                                  // only the first mark counts
   };
   for (const auto& [text, has] : cases) EXPECT_EQ(KILNUTIL_is_str_has_exponent(text), has) << text;
 }
@@ -23,12 +22,22 @@ TEST(ExponentTest, SignAndDigitAfterTheMark) {
 // buffer); -2 takes every digit, and -1 leaves the number's leading zeros
 // in the prefix.
 TEST(EndNumber, Modes) {
-  const struct { const char* text; int mode, value; const char* prefix; std::ptrdiff_t start; } cases[] = {
-      {"Book123456789", -1, 23456789, "Book1", 5}, {"Book123456789", 0, 23456789, "Book1", 5},
-      {"Book123456789", 20, 23456789, "Book1", 5}, {"Book123456789", -2, 123456789, "Book", 4},
-      {"a007", -1, 7, "a00", 3},                   {"a000", -1, 0, "a00", 3},
-      {"a007", 0, 7, "a", 1},                      {"Sheet", 0, 0, "Sheet", 5},
-      {"Sheet12", 4, 12, "She", 5},                {"Sheet12", 1, 12, "", 5},
+  const struct {
+    const char* text;
+    int mode, value;
+    const char* prefix;
+    std::ptrdiff_t start;
+  } cases[] = {
+      {"Book123456789", -1, 23456789, "Book1", 5},
+      {"Book123456789", 0, 23456789, "Book1", 5},
+      {"Book123456789", 20, 23456789, "Book1", 5},
+      {"Book123456789", -2, 123456789, "Book", 4},
+      {"a007", -1, 7, "a00", 3},
+      {"a000", -1, 0, "a00", 3},
+      {"a007", 0, 7, "a", 1},
+      {"Sheet", 0, 0, "Sheet", 5},
+      {"Sheet12", 4, 12, "She", 5},
+      {"Sheet12", 1, 12, "", 5},
       {"99999999999999", -2, 2147483647, "", 0},
   };
   for (const auto& c : cases) {

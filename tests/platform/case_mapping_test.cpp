@@ -19,8 +19,8 @@ std::u16string lower(std::u16string text) {
 TEST(CaseMapping, SimpleMappingKeepsTheLength) {
   EXPECT_EQ(upper(u"abc \u00E9\u03B1"), u"ABC \u00C9\u0391");
   EXPECT_EQ(lower(u"ABC \u00C9\u0391"), u"abc \u00E9\u03B1");
-  EXPECT_EQ(upper(u"stra\u00DFe"), u"STRA\u00DFE");            // no growth to "SS"
-  EXPECT_EQ(upper(u"\U00010428"), u"\U00010400");              // a supplementary pair
+  EXPECT_EQ(upper(u"stra\u00DFe"), u"STRA\u00DFE");                              // no growth to "SS"
+  EXPECT_EQ(upper(u"\U00010428"), u"\U00010400");                                // a supplementary pair
   EXPECT_EQ(upper(std::u16string(1, u'\xD801')), std::u16string(1, u'\xD801'));  // lone surrogate kept
 }
 

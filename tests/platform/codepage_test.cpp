@@ -23,7 +23,8 @@ std::u16string to_wide(unsigned cp, const std::string& bytes) {
 std::string to_bytes(unsigned cp, const std::u16string& units, bool* used_default = nullptr) {
   const int n = wide_to_multibyte(cp, units.data(), static_cast<int>(units.size()), nullptr, 0);
   std::string out(static_cast<size_t>(n), '\0');
-  EXPECT_EQ(wide_to_multibyte(cp, units.data(), static_cast<int>(units.size()), out.data(), n, nullptr, used_default), n);
+  EXPECT_EQ(wide_to_multibyte(cp, units.data(), static_cast<int>(units.size()), out.data(), n, nullptr, used_default),
+            n);
   return out;
 }
 
@@ -40,7 +41,10 @@ TEST(CodePage, EveryAsciiByteMapsToItselfBothWaysInEverySupportedPage) {
 
 TEST(CodePage, KnownCharactersOfTheWindowsTables) {
   EXPECT_EQ(to_wide(1252, "\x80\xE9\x9F"), u"\u20AC\u00E9\u0178");
-  EXPECT_EQ(to_wide(932, "\x82\xA0" "a\x83\x41"), u"\u3042a\u30A2");  // trail byte 0x41 is not an "A"
+  EXPECT_EQ(to_wide(932,
+                    "\x82\xA0"
+                    "a\x83\x41"),
+            u"\u3042a\u30A2");  // trail byte 0x41 is not an "A"
   EXPECT_EQ(to_wide(936, "\xC4\xE3"), u"\u4F60");
   EXPECT_EQ(to_wide(949, "\xB0\xA1"), u"\uAC00");
   EXPECT_EQ(to_wide(950, "\xA4\x40"), u"\u4E00");
@@ -49,7 +53,10 @@ TEST(CodePage, KnownCharactersOfTheWindowsTables) {
 }
 
 TEST(CodePage, InvalidInputIsReplacedNeverRejected) {
-  EXPECT_EQ(to_wide(65001, "a\xFF" "b"), u"a\uFFFDb");
+  EXPECT_EQ(to_wide(65001,
+                    "a\xFF"
+                    "b"),
+            u"a\uFFFDb");
   EXPECT_EQ(to_wide(65001, "\xE6\x97"), u"\uFFFD");  // truncated sequence at the end
   EXPECT_EQ(to_bytes(65001, std::u16string(1, u'\xD800')), "\xEF\xBF\xBD");
 }

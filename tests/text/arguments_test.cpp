@@ -33,9 +33,10 @@ TEST(TokenList, SeparatorsQuotesAndEmptyPieces) {
     Strings tokens;
   } cases[] = {
       {"f(a,b), <c,d>, 1.5,2", 0, -1, {"f(a,b)", "<c", "d>", "1.5", "2"}},  // sep 0: the comma
-      {"'a,b',c", ',', 0, {"'a,b'", "c"}},                                    // a leading single quote quotes
+      {"'a,b',c", ',', 0, {"'a,b'", "c"}},                                  // a leading single quote quotes
       {"'a,b',c", ',', 60000, {"'a", "b'", "c"}},
-      {"a   b\tc", -1, -1, {"a", "b", "c"}}, {"a,,b", ',', -1, {"a", "", "b"}},
+      {"a   b\tc", -1, -1, {"a", "b", "c"}},
+      {"a,,b", ',', -1, {"a", "", "b"}},
   };
   for (const Case& c : cases) {
     Text t(c.text);
@@ -69,10 +70,16 @@ TEST(MultidimensionalDereference, Subscripts) {
     const char* name;
     Strings subscripts;
   } cases[] = {
-      {" m [1] [ i+1 ]", 4, 2, "m", {"1", "i+1"}}, {"m[a[1]][2]", 4, 2, "m", {"a[1]", "2"}},
-      {"m[1][2]", 2, 2, "m", {"1", "2"}},          {" abc ", 4, 0, "abc", {}},
-      {"m[1] x", 4, -1, "", {}}, {"m[1", 4, -2, "", {}},   {"[1]", 4, -1, "", {}},
-      {"   ", 4, -1, "", {}},    {"m[]", 4, -1, "", {}},    {"m[1][2][3]", 2, -1, "", {}},
+      {" m [1] [ i+1 ]", 4, 2, "m", {"1", "i+1"}},
+      {"m[a[1]][2]", 4, 2, "m", {"a[1]", "2"}},
+      {"m[1][2]", 2, 2, "m", {"1", "2"}},
+      {" abc ", 4, 0, "abc", {}},
+      {"m[1] x", 4, -1, "", {}},
+      {"m[1", 4, -2, "", {}},
+      {"[1]", 4, -1, "", {}},
+      {"   ", 4, -1, "", {}},
+      {"m[]", 4, -1, "", {}},
+      {"m[1][2][3]", 2, -1, "", {}},
   };
   for (const Case& c : cases) {
     Text t(c.text);

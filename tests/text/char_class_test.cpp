@@ -9,10 +9,10 @@ TEST(TestChar, ClassesOfTheAsciiRange) {
     int c;
     int expected;
   } cases[] = {
-      {'A', 2}, {'z', 2}, {'_', 2}, {'`', 2},   {'0', 3},  {'9', 3},  {'.', 3},   {'*', 4},  {'^', 4},  {'=', 4},
-      {'(', 5}, {'<', 5}, {'{', 5}, {')', 6},   {'>', 6},  {']', 6},  {0, 7},     {';', 7},  {'\t', 8}, {'\n', 8},
-      {'\r', 8}, {' ', 8}, {'&', 15}, {'|', 15}, {',', 16}, {'"', 16}, {'\'', 16}, {'\\', 16}, {':', 16}, {'~', 16},
-      {11, 16}, {12, 16}, {127, 16}, {1, 16},   {200, 16},
+      {'A', 2},   {'z', 2},  {'_', 2},  {'`', 2}, {'0', 3},  {'9', 3},  {'.', 3},  {'*', 4},  {'^', 4},
+      {'=', 4},   {'(', 5},  {'<', 5},  {'{', 5}, {')', 6},  {'>', 6},  {']', 6},  {0, 7},    {';', 7},
+      {'\t', 8},  {'\n', 8}, {'\r', 8}, {' ', 8}, {'&', 15}, {'|', 15}, {',', 16}, {'"', 16}, {'\'', 16},
+      {'\\', 16}, {':', 16}, {'~', 16}, {11, 16}, {12, 16},  {127, 16}, {1, 16},   {200, 16},
   };
   for (const Case& c : cases) EXPECT_EQ(KILNUTIL_test_char(c.c), c.expected) << "character " << c.c;
 }
@@ -23,9 +23,8 @@ TEST(TestChar, ControlMaskRemapsModifiedCharacters) {
     int c;
     int expected;
   } cases[] = {
-      {1, '(', 4},  {1, '+', 4},  {1, '&', 15},  // modifier 2 does not share bit 1
-      {6, '+', 0},  {6, '^', 0},  {6, '\t', 0}, {6, '(', 5}, {6, ' ', 8},
-      {16, '&', 4}, {16, '|', 4},
+      {1, '(', 4}, {1, '+', 4}, {1, '&', 15},  // modifier 2 does not share bit 1
+      {6, '+', 0}, {6, '^', 0}, {6, '\t', 0}, {6, '(', 5}, {6, ' ', 8}, {16, '&', 4}, {16, '|', 4},
   };
   for (const Case& c : cases) {
     Restore mask = control_mask(c.mask);
@@ -44,4 +43,22 @@ TEST(IsSpace, SpaceAndNineToThirteenAndTheNoBreakSpaceWhenOn) {
     EXPECT_EQ(KILNUTIL_test_char(160), nbsp ? 8 : 16);
   }
   EXPECT_EQ(KILNUTIL_isspace(-1), 0);
+}
+
+// The three quote and pair classifications differ on purpose: the single
+// quote is a quote but no pair, and only the pair tests know brackets.
+TEST(QuoteClasses, QuoteCharAndPairOpenersAndClosers) {
+  struct Case {
+    int c;
+    int quote, begin, end;
+  } cases[] = {
+      {'"', 1, 3, 3},   {'\'', 2, 0, 0},  {'(', 0, 1, 0}, {')', 0, 0, 1},          {'{', 0, 2, 0}, {'}', 0, 0, 2},
+      {'[', 0, 4, 0},   {']', 0, 0, 4},   {'<', 0, 0, 0}, {'>', 0, 0, 0},          {'`', 0, 0, 0}, {0, 0, 0, 0},
+      {0x122, 0, 0, 0}, {0x128, 0, 0, 0}, {-1, 0, 0, 0},  {-0x100 + '(', 0, 0, 0},
+  };
+  for (const Case& c : cases) {
+    EXPECT_EQ(KILNUTIL_is_quote_char(c.c), c.quote) << c.c;
+    EXPECT_EQ(is_begin_quote(c.c), c.begin) << c.c;
+    EXPECT_EQ(is_end_quote(c.c), c.end) << c.c;
+  }
 }

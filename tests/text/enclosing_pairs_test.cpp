@@ -13,19 +13,47 @@ TEST(StrInside, Cases) {
     const char* inside;
     int kind;
   } cases[] = {
-      {"(a+b)*c", 0, "(a+b)*c", 0}, {"\"abc\"", 0, "abc", 3}, {"(a+b)  ", 0, "a+b", 1}, {"{x}", 0, "x", 2},
-      {"[x]", 0, "x", 4},           {"<a>", 0, "<a>", 0},     {"(a)(b)", 0, "(a)(b)", 0},
-      {"((a)(b))", 0, "(a)(b)", 1}, {"  (a)", 0, "  (a)", -2}, {"  (a)", 1, "a", 1},
-      {"(a+b)*c", 2, "a+b", 1},           // the closer need not be last
-      {"(a\")", 0x1000, "a\"", -1},       // the quote hides the closer from the search
-      {"a+b)", 0, "a+b)", -2},            // a closer without opener
-      {"((a))", 0x01000000 | 2, "(a", 1}, // search flags in the top byte: "(" no bracket, the first ")" closes
+      {"(a+b)*c", 0, "(a+b)*c", 0},
+      {"\"abc\"", 0, "abc", 3},
+      {"(a+b)  ", 0, "a+b", 1},
+      {"{x}", 0, "x", 2},
+      {"[x]", 0, "x", 4},
+      {"<a>", 0, "<a>", 0},
+      {"(a)(b)", 0, "(a)(b)", 0},
+      {"((a)(b))", 0, "(a)(b)", 1},
+      {"  (a)", 0, "  (a)", -2},
+      {"  (a)", 1, "a", 1},
+      {"(a+b)*c", 2, "a+b", 1},            // the closer need not be last
+      {"(a\")", 0x1000, "a\"", -1},        // the quote hides the closer from the search
+      {"a+b)", 0, "a+b)", -2},             // a closer without opener
+      {"((a))", 0x01000000 | 2, "(a", 1},  // search flags in the top byte: "(" no bracket, the first ")" closes
   };
   for (const Case& c : cases) {
     Text t(c.text);
     int kind = 99;
     EXPECT_STREQ(KILNUTIL_str_inside_ex(t.get(), c.options, &kind), c.inside) << c.text;
     EXPECT_EQ(kind, c.kind) << c.text;
+    Text again(c.text);
+    EXPECT_STREQ(KILNUTIL_str_inside(again.get(), c.options), c.inside) << c.text;  // the kind left out
+  }
+}
+
+// The two short forms are the general one with options 0 and 0x1001.
+TEST(RemoveQuotes, ShortFormsAreTheGeneralOne) {
+  using Strip = char* (*)(char*, int*);
+  const struct {
+    Strip short_form;
+    unsigned options;
+  } forms[] = {{KILNUTIL_text_inside_remove_quotes, 0}, {KILNUTIL_text_inside_remove_quotes_even_mismatch, 0x1001}};
+  for (const char* text : {"  ( \"[x]\" ) ", "abc", "((a\")", "{(a)}b", "(a", "\"\"", "[ (x) ]"}) {
+    for (const auto& f : forms) {
+      Text a(text), b(text);
+      int removed_a = 7, removed_b = 9;
+      EXPECT_STREQ(KILNUTIL_text_inside_remove_quotes_ex(a.get(), &removed_a, f.options),
+                   f.short_form(b.get(), &removed_b))
+          << text << " " << f.options;
+      EXPECT_EQ(removed_a, removed_b) << text << " " << f.options;
+    }
   }
 }
 
@@ -52,7 +80,9 @@ TEST(QuotedTerm, CopiesAndReturnsThePositionBehindTheSeparator) {
     const char* term;
     long next;
   } cases[] = {
-      {"  \"a,b\",c", ',', '"', 1, "a,b", 8}, {"ab,c", ',', '"', 1, "ab", 3}, {"last", ',', '"', 1, "last", -1},
+      {"  \"a,b\",c", ',', '"', 1, "a,b", 8},
+      {"ab,c", ',', '"', 1, "ab", 3},
+      {"last", ',', '"', 1, "last", -1},
       {"\"say \"\"hi\"\"\",x", ',', '"', 1, "say \"\"hi\"\"", 13},
       {"\"say \"\"hi\"\"\",x", ',', '"', 0, "\"say \"\"hi\"\"\"", 13},
       {"\"\"a,b", ',', '"', 1, "\"a", 4},  // an even run of quotes: not quoted, the separator ends it

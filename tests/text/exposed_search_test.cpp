@@ -25,31 +25,62 @@ TEST(ExposedSearch, Cases) {
   } cases[] = {
       // Quotes and brackets hide the target, one bracket kind at a time; brackets inside quotes are
       // text, and a quote inside brackets is skipped whole.
-      {"f(a,b),c", ',', 0, 0, 6}, {"\"a,b\",c", ',', 0, 0, 5}, {"'a,b',c", ',', 0, 0, 5}, {"((a)b),c", ',', 0, 0, 6},
-      {"[\"],\"],c", ',', 0, 0, 6}, {"(\"a)\"),c", ',', 0, 0, 6}, {"(a[b)c],d", ']', 0, 0, 6}, {"{a,b}", ',', 0, 0, -1},
-      {"", 'c', 0, 0, -1}, {"(a b)\tc", 0, 0, 0, 5},  // target 0: white space
+      {"f(a,b),c", ',', 0, 0, 6},
+      {"\"a,b\",c", ',', 0, 0, 5},
+      {"'a,b',c", ',', 0, 0, 5},
+      {"((a)b),c", ',', 0, 0, 6},
+      {"[\"],\"],c", ',', 0, 0, 6},
+      {"(\"a)\"),c", ',', 0, 0, 6},
+      {"(a[b)c],d", ']', 0, 0, 6},
+      {"{a,b}", ',', 0, 0, -1},
+      {"", 'c', 0, 0, -1},
+      {"(a b)\tc", 0, 0, 0, 5},  // target 0: white space
       // Quote and bracket targets are found when exposed.
-      {"a\"b\"", '"', 0, 0, 1}, {"a(b)", '(', 0, 0, 1}, {"(a)b)", ')', 0, 0, 4}, {"((a)b)c(", '(', 0, 0, 0},
+      {"a\"b\"", '"', 0, 0, 1},
+      {"a(b)", '(', 0, 0, 1},
+      {"(a)b)", ')', 0, 0, 4},
+      {"((a)b)c(", '(', 0, 0, 0},
       // Numeric literals are skipped (not with 0x40). A lone "." is one character; only the 1 of 1e5 is
       // skipped but 1e55 whole; a second "." or exponent letter ends the literal at its start, a second
       // sign ends the exponent; a space right after the letter belongs to it; a digit target is found.
-      {"1e-5", '-', 0, 0, -1}, {"2.5E+3-x", '-', 0, 0, 6}, {"1.5e-3", '-', 0, 0, -1}, {"12-3", '-', 0, 0, 2},
-      {"a.-b", '-', 0, 0, 2},  {"1e5", 'e', 0, 0, 1},      {"1e55", 'e', 0, 0, -1},  {"1.2.3", '.', 0, 0, 1},
-      {"1e5e", 'e', 0, 0, 1},  {"1e+5-2", '-', 0, 0, 4},   {"1e 5,", ' ', 0, 0, -1}, {"x1-3", '1', 0, 0, 1},
-      {"1e-5", '-', 0x40, 0, 2}, {"1.5", '.', 0x40, 0, 1},
+      {"1e-5", '-', 0, 0, -1},
+      {"2.5E+3-x", '-', 0, 0, 6},
+      {"1.5e-3", '-', 0, 0, -1},
+      {"12-3", '-', 0, 0, 2},
+      {"a.-b", '-', 0, 0, 2},
+      {"1e5", 'e', 0, 0, 1},
+      {"1e55", 'e', 0, 0, -1},
+      {"1.2.3", '.', 0, 0, 1},
+      {"1e5e", 'e', 0, 0, 1},
+      {"1e+5-2", '-', 0, 0, 4},
+      {"1e 5,", ' ', 0, 0, -1},
+      {"x1-3", '1', 0, 0, 1},
+      {"1e-5", '-', 0x40, 0, 2},
+      {"1.5", '.', 0x40, 0, 1},
       // Escapes inside quotes.
-      {"\"a\\\",b\",c", ',', 0, 0, 7}, {"\"a\\\\\",b", ',', 0, 0, 5},
+      {"\"a\\\",b\",c", ',', 0, 0, 7},
+      {"\"a\\\\\",b", ',', 0, 0, 5},
       // Bracket and quote exclusion; the quote bits count only with loc.
-      {"(a,b),c", ',', 0x1000000, 0, 2},    {"{a,b},c", ',', 0x2000000, 0, 2},    {"[a,b],c", ',', 0x4000000, 0, 2},
-      {"'a,b',c", ',', 0x10000000, 0, 5},   {"'a,b',c", ',', 0x10000000, 1, 2},
-      {"\"a,b\",c", ',', 0x20000000, 1, 2}, {"\"a,b\",c", ',', 0x20000000, 0, 5},
+      {"(a,b),c", ',', 0x1000000, 0, 2},
+      {"{a,b},c", ',', 0x2000000, 0, 2},
+      {"[a,b],c", ',', 0x4000000, 0, 2},
+      {"'a,b',c", ',', 0x10000000, 0, 5},
+      {"'a,b',c", ',', 0x10000000, 1, 2},
+      {"\"a,b\",c", ',', 0x20000000, 1, 2},
+      {"\"a,b\",c", ',', 0x20000000, 0, 5},
       // 0x100 with loc: a single quote quotes only as the first character.
-      {"'a,b',c", ',', 0x100, 1, 5}, {"it's,x'", ',', 0x100, 1, 4},
-      {"it's,x'", ',', 0, 1, -1},    {"it's,x'", ',', 0x100, 0, -1},
+      {"'a,b',c", ',', 0x100, 1, 5},
+      {"it's,x'", ',', 0x100, 1, 4},
+      {"it's,x'", ',', 0, 1, -1},
+      {"it's,x'", ',', 0x100, 0, -1},
       // Either case with 0x80.
-      {"xAb", 'a', 0, 0, -1}, {"xAb", 'a', 0x80, 0, 1}, {"x(a)A", 'a', 0x80, 0, 4}, {"x\xC3\xA9", 0xC9, 0x80, 0, 1},
+      {"xAb", 'a', 0, 0, -1},
+      {"xAb", 'a', 0x80, 0, 1},
+      {"x(a)A", 'a', 0x80, 0, 4},
+      {"x\xC3\xA9", 0xC9, 0x80, 0, 1},
       // U+10022 (low 16 bits those of the double quote) is no quote; a cut sequence stops at the NUL.
-      {"\xF0\x90\x80\xA2,a", ',', 0, 0, 4}, {"\xE2", ',', 0, 0, -1},
+      {"\xF0\x90\x80\xA2,a", ',', 0, 0, 4},
+      {"\xE2", ',', 0, 0, -1},
   };
   for (const Case& c : cases) EXPECT_EQ(find(c.text, c.target, c.flags, c.loc), c.expected) << c.text;
 }
@@ -89,7 +120,9 @@ TEST(ExposedSearch, LastScanPositionStatusAndEnd) {
 }
 
 TEST(ExposedSearch, SettingsNoBreakSpaceAndAngleBrackets) {
-  const char text[] = "a\xC2\xA0" "b c";
+  const char text[] =
+      "a\xC2\xA0"
+      "b c";
   for (bool nbsp : {true, false}) {
     Restore setting = no_break_space(nbsp);
     EXPECT_EQ(find(text, 0), nbsp ? 1 : 4);

@@ -42,15 +42,25 @@ TEST(Statement, Cases) {
     int status;
   } cases[] = {
       {"x=1;y=2", "x=1", 4, 'y'},  // the next character is handed back, its place cut
-      {"  x=1; y=2", "x=1", 7, 0}, {"x=1;", "x=1", -1, 0}, {"x=1;  ", "x=1", -1, 0}, {"  x = 1 ", "x = 1 ", -1, 0},
-      {"s=\"a;b\"; t", "s=\"a;b\"", 9, 0}, {"x = f(1;2)", "x = f(1;2)", -1, 0},
+      {"  x=1; y=2", "x=1", 7, 0},
+      {"x=1;", "x=1", -1, 0},
+      {"x=1;  ", "x=1", -1, 0},
+      {"  x = 1 ", "x = 1 ", -1, 0},
+      {"s=\"a;b\"; t", "s=\"a;b\"", 9, 0},
+      {"x = f(1;2)", "x = f(1;2)", -1, 0},
       // Labels keep their colon; after a "?" the colon is a conditional's.
-      {"start: x=1", "start:", 7, 0}, {"loop:x", "loop:", 5, 'x'}, {"a?b:c;d", "a?b:c", 6, 'd'},
+      {"start: x=1", "start:", 7, 0},
+      {"loop:x", "loop:", 5, 'x'},
+      {"a?b:c;d", "a?b:c", 6, 'd'},
       // White space around "::" is closed up.
-      {"a = b  ::  c; d", "a = b::c", 10, 0}, {"x::y", "x::y", -1, 0},
+      {"a = b  ::  c; d", "a = b::c", 10, 0},
+      {"x::y", "x::y", -1, 0},
       // Brace blocks, joined by commas; an unclosed one anywhere fails the call.
-      {"if (a) {b=1;c=2} d=3;", "if (a) {b=1;c=2}", 17, 0}, {"x = {1,2}, {3,4}; y", "x = {1,2}, {3,4}", 16, ';'},
-      {"{a}x", "{a}", 3, 'x'}, {"{\"}\"}", "{\"}\"}", -1, 0}, {"x=1; {", "x=1; {", -1, -1},
+      {"if (a) {b=1;c=2} d=3;", "if (a) {b=1;c=2}", 17, 0},
+      {"x = {1,2}, {3,4}; y", "x = {1,2}, {3,4}", 16, ';'},
+      {"{a}x", "{a}", 3, 'x'},
+      {"{\"}\"}", "{\"}\"}", -1, 0},
+      {"x=1; {", "x=1; {", -1, -1},
   };
   for (const Case& c : cases) {
     Text t(c.text);
@@ -87,14 +97,18 @@ TEST(Term, Cases) {
     Term expected;
   } cases[] = {
       // An operator or white space ends it; the operator only when nothing but white space precedes it.
-      {"a + b", true, {"a", '+', 2, 4}}, {"a b+c", true, {"a", 0, 1, 2}}, {"x*y", true, {"x", '*', 1, 2}},
-      {"i++ + 1", true, {"i++", '+', 4, 6}}, {"1e-5 x", true, {"1e-5", 0, 4, 5}},
+      {"a + b", true, {"a", '+', 2, 4}},
+      {"a b+c", true, {"a", 0, 1, 2}},
+      {"x*y", true, {"x", '*', 1, 2}},
+      {"i++ + 1", true, {"i++", '+', 4, 6}},
+      {"1e-5 x", true, {"1e-5", 0, 4, 5}},
       {"f(a b) c", false, {"f(a b)", 0, 6, 7}},
       // Nothing ends it: the whole text, trimmed and unquoted.
       {"  \"abc\"", true, {"abc", 0, -1, -1}},
       {"\"a b\"  ", true, {"a b", 0, 5, -1}},  // the exposed space behind the quotes ends it
       // A bracketed term, and a missing closer.
-      {"(a + b) * c", true, {"a + b", ')', 6, 8}}, {"(a + b", true, {"(a + b", -1, -1, -1}},
+      {"(a + b) * c", true, {"a + b", ')', 6, 8}},
+      {"(a + b", true, {"(a + b", -1, -1, -1}},
   };
   for (const Case& c : cases) EXPECT_EQ(separate_term(c.text, c.with_op), c.expected) << c.text;
 }
@@ -123,8 +137,8 @@ TEST(PrecedingAndRemainingTerm, BetweenOpenerAndCloser) {
 // A chain of calls over one buffer (where the splitter may remember what it
 // learnt about the rest) gives what each call gives on a fresh copy of its text.
 TEST(Statement, ChainMatchesFreshCalls) {
-  static const char* const kPieces[] = {"x", "=", "12", "1e 5", " ", " ", ";", ";", ":", "::", "?", "{", "}", ",",
-                                        "\"", "'", "(", ")", "[", "]", "<", "\\", ".", "\xC2\xA0", "\xE2"};
+  static const char* const kPieces[] = {"x", "=",  "12", "1e 5", " ", " ", ";", ";", ":",  "::", "?",        "{",   "}",
+                                        ",", "\"", "'",  "(",    ")", "[", "]", "<", "\\", ".",  "\xC2\xA0", "\xE2"};
   std::mt19937 random(7);
   for (int round = 0; round < 3000; ++round) {
     std::string script;

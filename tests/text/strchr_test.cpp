@@ -21,14 +21,33 @@ TEST(StrChr, ModesInBothWalks) {
       // Exposed mode: one pair kind at a time ("[" is ordinary inside braces), same-kind nesting, no
       // escapes (the quote inside "(" is ordinary), single quotes and angle brackets not special, a
       // stray closer found at depth 0, a quote target found before it opens a pair.
-      {"f(a,b),c", ',', 0, 6}, {"\"a,b\",c", ',', 0, 5}, {"(a,b", ',', 0, -1},       {"{a,[b},c", ',', 0, 6},
-      {"(a(b)c,d),e", ',', 0, 9}, {"(a\\\",b\"),c", ',', 0, 8}, {"'a,b',c", ',', 0, 2}, {"<a,b>", ',', 0, 2},
-      {"a)b,c", ')', 0, 1},    {"x\"y\"", '"', 0, 1},  {"abc", 0, 0, -1},  {"abc", 0, 1, -1}, {"", 'a', 0, -1},
+      {"f(a,b),c", ',', 0, 6},
+      {"\"a,b\",c", ',', 0, 5},
+      {"(a,b", ',', 0, -1},
+      {"{a,[b},c", ',', 0, 6},
+      {"(a(b)c,d),e", ',', 0, 9},
+      {"(a\\\",b\"),c", ',', 0, 8},
+      {"'a,b',c", ',', 0, 2},
+      {"<a,b>", ',', 0, 2},
+      {"a)b,c", ')', 0, 1},
+      {"x\"y\"", '"', 0, 1},
+      {"abc", 0, 0, -1},
+      {"abc", 0, 1, -1},
+      {"", 'a', 0, -1},
       // Plain modes: forward, backward (3), after the leading run of c (4), within the trimmed text (0x10).
-      {"f(a,b),c", ',', 1, 3}, {"f(a,b),c", ',', 3, 6}, {"abc", ',', 3, -1}, {",,a,b", ',', 4, 3}, {",,,", ',', 4, -1},
-      {"  a b  ", ' ', 0x10, 3}, {"  ab  ", ' ', 0x10, -1}, {" ,a,", ',', 0x14, 3},
+      {"f(a,b),c", ',', 1, 3},
+      {"f(a,b),c", ',', 3, 6},
+      {"abc", ',', 3, -1},
+      {",,a,b", ',', 4, 3},
+      {",,,", ',', 4, -1},
+      {"  a b  ", ' ', 0x10, 3},
+      {"  ab  ", ' ', 0x10, -1},
+      {" ,a,", ',', 0x14, 3},
       // Either case (0x20).
-      {"abCd", 'c', 1, -1}, {"abCd", 'c', 0x21, 2}, {"abcd", 'C', 0x21, 2}, {"(c)C", 'c', 0x20, 3},
+      {"abCd", 'c', 1, -1},
+      {"abCd", 'c', 0x21, 2},
+      {"abcd", 'C', 0x21, 2},
+      {"(c)C", 'c', 0x20, 3},
       {"a1b", '1', 0x21, 1},
   };
   for (unsigned cp : {1252u, 65001u}) {

@@ -5,6 +5,7 @@
 #include <kilnutil/frame.h>
 #include <kilnutil/text.h>
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <utility>
@@ -14,13 +15,13 @@ namespace text_test {
 
 // Runs undo at the end of the scope.
 class Restore {
- public:
+public:
   explicit Restore(std::function<void()> undo) : undo_(std::move(undo)) {}
   Restore(const Restore&) = delete;
   Restore& operator=(const Restore&) = delete;
   ~Restore() { undo_(); }
 
- private:
+private:
   std::function<void()> undo_;
 };
 
@@ -53,16 +54,16 @@ inline Restore escapes_off() {
 
 // A writable, NUL-terminated copy of a text.
 class Text {
- public:
+public:
   explicit Text(const std::string& s) : bytes_(s.begin(), s.end()) { bytes_.push_back('\0'); }
   char* get() { return bytes_.data(); }
   char* at(std::size_t i) { return bytes_.data() + i; }
 
- private:
+private:
   std::vector<char> bytes_;
 };
 
 // Offset of a returned position in text, or -1 for null.
-inline long offset(const char* text, const char* p) { return p == nullptr ? -1 : static_cast<long>(p - text); }
+inline std::ptrdiff_t offset(const char* text, const char* p) { return p == nullptr ? -1 : p - text; }
 
 }  // namespace text_test

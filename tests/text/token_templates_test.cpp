@@ -76,15 +76,58 @@ std::vector<std::string> results(Text<Ch> text) {
 }
 
 TEST(TokenTemplates, NarrowAndWideAgree) {
-  const char* corpus[] = {"", "a", "a,b,c\n1,2,3\n4,5,6\n", "a;b\r\nc;d\r\ne;f", "x\ty\tz\n1\t2\n",
-                          " \t padded , text \t ", "it's, a, b", "f(a,b),c\n\"q,r\",s\n", "[a,b]{c,d}<e,f>\n",
-                          "1.5e-3,2\n3,\"open", "\n\n\n",
-                          "\xC3\xA9t\xC3\xA9,\xE2\x82\xAC 5,\xC2\xA0x\n\xC3\xA9,b", "a\xC2\xA0" "b c\td"};
+  const char* corpus[] = {"",
+                          "a",
+                          "a,b,c\n1,2,3\n4,5,6\n",
+                          "a;b\r\nc;d\r\ne;f",
+                          "x\ty\tz\n1\t2\n",
+                          " \t padded , text \t ",
+                          "it's, a, b",
+                          "f(a,b),c\n\"q,r\",s\n",
+                          "[a,b]{c,d}<e,f>\n",
+                          "1.5e-3,2\n3,\"open",
+                          "\n\n\n",
+                          "\xC3\xA9t\xC3\xA9,\xE2\x82\xAC 5,\xC2\xA0x\n\xC3\xA9,b",
+                          "a\xC2\xA0"
+                          "b c\td"};
   for (const char* sample : corpus) {
     const std::string text = sample;
     const std::vector<std::string> a = results<char>(text), b = results<char16_t>(wide(text));
     ASSERT_EQ(a.size(), b.size()) << text;
     for (std::size_t i = 0; i < a.size(); ++i) EXPECT_EQ(a[i], b[i]) << text << " result " << i;
+  }
+}
+
+// The flat A and W exports and the template helpers agree on the same text,
+// in character terms.
+TEST(TokenTemplates, FlatNarrowAndWideExportsAgree) {
+  for (const char* sample : {"  a, b ;c  ", "x\ty\n1\t2\t3\n", "(a,b),\"c,d\",e", "\xC3\xA9,b\n", ""}) {
+    const Text<char> a = sample;
+    const Text<char16_t> w = wide(a);
+    {
+      Text<char> ca = a, ta = a;
+      Text<char16_t> cw = w, tw = w;
+      EXPECT_EQ(narrow(KILNUTIL_TrimRightA(ca.data())), narrow(KILNUTIL_TrimRightW(cw.data()))) << sample;
+      EXPECT_EQ(narrow(KILNUTILT_TrimRight(ta.data())), narrow(KILNUTILT_TrimRight(tw.data()))) << sample;
+      EXPECT_EQ(narrow(KILNUTIL_TrimBothA(ca.data())), narrow(KILNUTIL_TrimBothW(cw.data()))) << sample;
+      EXPECT_EQ(narrow(KILNUTILT_TrimLeft(ta.data())), narrow(KILNUTILT_TrimLeft(tw.data()))) << sample;
+    }
+    for (const int target : std::initializer_list<int>{0, ',', '"'}) {
+      int status_a = 5, status_w = 6;
+      EXPECT_EQ(index_of(a.c_str(), KILNUTIL_ExposedCharPosA(a.c_str(), target, 0, &status_a)),
+                index_of(w.c_str(), KILNUTIL_ExposedCharPosW(w.c_str(), target, 0, &status_w)))
+          << sample << " " << target;
+      EXPECT_EQ(status_a, status_w);
+      EXPECT_EQ(index_of(a.c_str(), KILNUTIL_StrCharA(a.c_str(), target, 1)),
+                index_of(w.c_str(), KILNUTIL_StrCharW(w.c_str(), target, 1)))
+          << sample << " " << target;
+    }
+    Text<char> ta = a;
+    Text<char16_t> tw = w;
+    EXPECT_EQ(KILNUTIL_FirstLineTokensA(ta.data(), ','), KILNUTIL_FirstLineTokensW(tw.data(), ',')) << sample;
+    EXPECT_EQ(KILNUTIL_TestWordsInLineA(a.c_str(), 3), KILNUTIL_TestWordsInLineW(w.c_str(), 3)) << sample;
+    EXPECT_EQ(KILNUTILT::StrLen(a.c_str()), static_cast<int>(a.size())) << sample;  // units, not characters
+    EXPECT_EQ(KILNUTILT::StrLen(w.c_str()), static_cast<int>(w.size())) << sample;
   }
 }
 
@@ -112,9 +155,9 @@ TEST(TokenTemplates, ConsistentTokenCounts) {
   EXPECT_EQ(consistent("a,b,c\nd,e,f\ng,h,i", ',', 0, 0), -1);
   EXPECT_EQ(consistent("alone\nx,y\n", ',', 0, 2), -2);
   EXPECT_EQ(consistent("a,b\nc,d,e\nf,g\n", ',', 0, 3), -3);
-  EXPECT_EQ(consistent("a,b\nc,d,e\nf,g\n", ',', 2, 3), 2);      // enough at once
-  EXPECT_EQ(consistent("a\tb\nc\td\te\nf\n", '\t', 0, 3), 3);    // the largest
-  EXPECT_EQ(consistent("a\tb\nc\td\te\nf\n", '\t', 0, 10), 3);   // tab: text end is fine
+  EXPECT_EQ(consistent("a,b\nc,d,e\nf,g\n", ',', 2, 3), 2);     // enough at once
+  EXPECT_EQ(consistent("a\tb\nc\td\te\nf\n", '\t', 0, 3), 3);   // the largest
+  EXPECT_EQ(consistent("a\tb\nc\td\te\nf\n", '\t', 0, 10), 3);  // tab: text end is fine
 }
 
 int separator(std::string text, int lines) { return KILNUTILT_FindSeparator(text.data(), 0, lines); }
@@ -173,9 +216,9 @@ std::string next_token(const char* text, int size) {
 
 TEST(TokenTemplates, NextToken) {
   EXPECT_EQ(next_token("ab,cd", 8), "ab@3");
-  EXPECT_EQ(next_token("xyz", 8), "xyz@3");          // the NUL
-  EXPECT_EQ(next_token("abcdef,g", 4), "abc@3");     // dest full
-  EXPECT_EQ(next_token("a\xC3\xA9,", 3), "a@1");     // no half characters
+  EXPECT_EQ(next_token("xyz", 8), "xyz@3");       // the NUL
+  EXPECT_EQ(next_token("abcdef,g", 4), "abc@3");  // dest full
+  EXPECT_EQ(next_token("a\xC3\xA9,", 3), "a@1");  // no half characters
   const char16_t* wtext = u"ab;cd";
   char16_t wdest[8];
   EXPECT_EQ(KILNUTIL_NextTokenW(wdest, wtext, u",;", 8), wtext + 3);
@@ -218,3 +261,26 @@ TEST(TokenTemplates, HelperMembers) {
 }
 
 }  // namespace
+
+// Either case with the UTF-8 walk: c and its one case-converted form match
+// (the upper case, or the lower case when upper-casing leaves c as it is), so
+// the title-case U+01C5 finds U+01C4 but not U+01C6, in both searches.
+TEST(TokenTemplates, StrCharOtherCaseOfNonAsciiLetters) {
+  const unsigned previous = set_code_page_for_string_process(65001);
+  const struct {
+    const char* text;
+    int c;
+    int found;  // offset, -1 for none
+  } cases[] = {
+      {"a\xC7\x84", 0x1C5, 1}, {"a\xC7\x86", 0x1C5, -1}, {"a\xC7\x85", 0x1C6, -1}, {"a\xC7\x84", 0x1C6, 1},
+      {"a\xC7\x86", 0x1C4, 1}, {"\xC3\xA9", 0xC9, 0},    {"\xC3\x89", 0xE9, 0},    {"a\xC7\x85", 0x1C5, 1},
+  };
+  for (const auto& c : cases) {
+    for (const int mode : {0x20, 0x21, 0x23}) {
+      const char* hit = KILNUTIL_strchr(c.text, c.c, static_cast<unsigned>(mode));
+      EXPECT_EQ(hit == nullptr ? -1 : hit - c.text, c.found) << c.text << " " << c.c << " " << mode;
+      EXPECT_EQ(KILNUTIL_StrCharA(c.text, c.c, mode), hit) << c.text << " " << c.c << " " << mode;
+    }
+  }
+  set_code_page_for_string_process(previous);
+}

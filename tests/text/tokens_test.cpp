@@ -30,13 +30,20 @@ TEST(NextToken, Sequences) {
     Tokens tokens;
   } cases[] = {
       // Operators delimit, "*" does not; a sign after a digit and "e" belongs to the number.
-      {"a=b+1.5e-3*c", {"a", "=", "b", "+", "1.5e-3*c"}}, {"x^2 / y", {"x", "^", "2", "/", "y"}},
-      {"2E+5+e-1", {"2E+5", "+", "e", "-", "1"}}, {"a*-b", {"a*", "-", "b"}},
+      {"a=b+1.5e-3*c", {"a", "=", "b", "+", "1.5e-3*c"}},
+      {"x^2 / y", {"x", "^", "2", "/", "y"}},
+      {"2E+5+e-1", {"2E+5", "+", "e", "-", "1"}},
+      {"a*-b", {"a*", "-", "b"}},
       // A token that is one enclosed section loses its pair.
-      {"\"a b\"+[1;2]", {"a b", "+", "1;2"}}, {"((a)b) c", {"(a)b", "c"}},
+      {"\"a b\"+[1;2]", {"a b", "+", "1;2"}},
+      {"((a)b) c", {"(a)b", "c"}},
       // Brackets later in the token: "(" "[" are kept, "{" and a quote end it first.
-      {"f(a + b)+1", {"f(a + b)", "+", "1"}}, {"m[1][2]", {"m[1]", "2"}}, {"f(a[b)c]", {"f(a[b)", "c]"}},
-      {"ab{c}", {"ab", "c"}}, {"ab\"c d\"", {"ab", "c d"}}, {"f(a", {"f(a"}},
+      {"f(a + b)+1", {"f(a + b)", "+", "1"}},
+      {"m[1][2]", {"m[1]", "2"}},
+      {"f(a[b)c]", {"f(a[b)", "c]"}},
+      {"ab{c}", {"ab", "c"}},
+      {"ab\"c d\"", {"ab", "c d"}},
+      {"f(a", {"f(a"}},
   };
   for (const Case& c : cases) EXPECT_EQ(all_tokens(c.text), c.tokens) << c.text;
 }
@@ -87,8 +94,12 @@ TEST(FindAnyOf, ExposedOrAnywhere) {
     unsigned flags;
     long expected;
   } cases[] = {
-      {"f(a;b)\"c:d\";e", ";:", 0, 11}, {"f(a;b)\"c:d\";e", ";:", 0x10000, 3}, {"f(a;b)\"c:d\";e", "(", 0, 1},
-      {"f(a;b)\"c:d\";e", "\"", 0, 6},  {"1e-5", "-", 0, -1}, {"abc", "", 0, -1},
+      {"f(a;b)\"c:d\";e", ";:", 0, 11},
+      {"f(a;b)\"c:d\";e", ";:", 0x10000, 3},
+      {"f(a;b)\"c:d\";e", "(", 0, 1},
+      {"f(a;b)\"c:d\";e", "\"", 0, 6},
+      {"1e-5", "-", 0, -1},
+      {"abc", "", 0, -1},
       {"a(\xC3\xA9)\xC3\xA9", "\xC3\xA9", 0, 5},
   };
   for (const Case& c : cases)

@@ -54,7 +54,12 @@ std::vector<unsigned char> random_bytes(size_t n, unsigned seed) {
 
 TEST(Base64, Rfc4648VectorsUnderBothNames) {
   const std::pair<std::string, std::string> vectors[] = {
-      {"f", "Zg=="}, {"fo", "Zm8="}, {"foo", "Zm9v"}, {"foob", "Zm9vYg=="}, {"fooba", "Zm9vYmE="}, {"foobar", "Zm9vYmFy"},
+      {"f", "Zg=="},
+      {"fo", "Zm8="},
+      {"foo", "Zm9v"},
+      {"foob", "Zm9vYg=="},
+      {"fooba", "Zm9vYmE="},
+      {"foobar", "Zm9vYmFy"},
       {std::string("\xFB\xFF\x00\x10", 4), "+/8AEA=="},
   };
   for (const auto& [plain, encoded] : vectors) {
@@ -86,8 +91,17 @@ TEST(Base64, SizesWithoutDestination) {
 // alone is dropped, six give four bytes, seven five.
 TEST(Base64, DecodingSkipsOthersAndKeepsLeftovers) {
   const std::pair<std::string, std::string> cases[] = {
-      {"Zm9v\r\nYmFy", "foobar"}, {"Z m9v-Ym*Fy==\n", "foobar"}, {"=Zm=9vYm=Fy", "foobar"}, {"\n\n\n", ""},
-      {"Zm9vY", "foo"}, {"Zm9vYm", "foob"}, {"Zm9vYmE", "fooba"},
+      {"Zm9v\r\nYmFy", "foobar"},
+      {"Z m9v-Ym*Fy==\n", "foobar"},
+      {"=Zm=9vYm=Fy", "foobar"},
+      {"\n\n\n", ""},
+      {"Zm9vY", "foo"},
+      {"Zm9vYm", "foob"},
+      {"Zm9vYmE", "fooba"},
+      // Two saved fuzz findings (fuzz/corpus/base64_decode/crash-*): two
+      // whole groups with high bits set in every byte.
+      {"nONNNNnn", "\x9C\xE3\x4D\x34\xD9\xE7"},
+      {"yy++++++", "\xCB\x2F\xBE\xFB\xEF\xBE"},
   };
   for (const auto& [text, plain] : cases) EXPECT_EQ(decode(text), plain) << text;
 }

@@ -11,7 +11,7 @@
 namespace {
 
 // A byte source over a string, giving back any number of bytes.
-class StringByteSource : public KilnByteSource {
+class StringByteSource final : public KilnByteSource {
 public:
   explicit StringByteSource(std::string bytes) : bytes_(std::move(bytes)) {}
   int next_byte() override {
@@ -51,10 +51,17 @@ const std::string kMixed = "a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80";
 
 // Characters read one after another from a stream over the bytes.
 TEST(Utf8Fgetc, ReadsStreamsAndSources) {
-  const struct { std::string bytes; unsigned flags; std::vector<int> reads; } cases[] = {
+  const struct {
+    std::string bytes;
+    unsigned flags;
+    std::vector<int> reads;
+  } cases[] = {
       {kMixed, 0, {0x61, 0xE9, 0x20AC, 0x1F600, -1}},
       // Continuation bytes are not checked: the 'A' after C3 is taken as one.
-      {"\xC3" "AB", 0, {(0x03 << 6) | ('A' & 0x3F), 'B', -1}},
+      {"\xC3"
+       "AB",
+       0,
+       {(0x03 << 6) | ('A' & 0x3F), 'B', -1}},
       // A sequence cut by the end takes the end's bits as they come.
       {"\xE2\x82", 0, {(0x2 << 12) | (0x02 << 6) | 0x3F}},
       // A raw unit never reports the end: the second read hits it, then the first.

@@ -31,14 +31,20 @@ std::string utf8_to_mbcs(const std::string& text, int code_page) {
 // explicit length. Every failure empties the destination.
 TEST(MbcsToUtf8, ResultsAndDestinations) {
   using namespace std::string_literals;
-  const struct { const char* text; int length, size, code_page; unsigned string_page; int result; std::string out; } cases[] = {
+  const struct {
+    const char* text;
+    int length, size, code_page;
+    unsigned string_page;
+    int result;
+    std::string out;
+  } cases[] = {
       {"caf\xE9", -1, 16, 1252, 0, 5, "caf\xC3\xA9\0"s},
       {"abcdef", 3, 16, 1252, 0, 2, "abc#"},
       {"\x80", -1, 0, 1252, 0, 3, "\xE2\x82\xAC\0"s},  // 0 or less is unbounded
       {"", -1, 16, 1252, 0, 0, "\0"s},
       {nullptr, -1, 16, 1252, 0, 0, "\0"s},
-      {"caf\xE9", -1, 4, 1252, 0, 0, "\0"s},  // needs 6 bytes with its NUL
-      {"abc", -1, 16, 12345, 0, 0, "\0"s},    // no such code page
+      {"caf\xE9", -1, 4, 1252, 0, 0, "\0"s},                                    // needs 6 bytes with its NUL
+      {"abc", -1, 16, 12345, 0, 0, "\0"s},                                      // no such code page
       {"\x93\xFA\x96\x7B", -1, 16, -1, 932, 6, "\xE6\x97\xA5\xE6\x9C\xAC\0"s},  // below 0: the string-process page
       {"\x93\xFA", -1, 16, -1, 1252, 5, "\xE2\x80\x9C\xC3\xBA\0"s},
   };
@@ -90,7 +96,7 @@ TEST(Utf8ToUtf16Buffers, CountsAndTheSpareUnit) {
   for (auto& unit : out) unit = 0x7777;
   EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_UTF16_buffers_ex(out, 3, "abc", 3), 2);
   EXPECT_EQ(out[2], u'c');
-  EXPECT_EQ(out[3], 0);  // one past the size given
+  EXPECT_EQ(out[3], 0);                                                         // one past the size given
   EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_UTF16_buffers_ex(out, 3, "abc", -1), -1);  // 4 units needed
   EXPECT_EQ(out[0], 0);
   EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_UTF16_buffers_ex(out, 3, "", -1), 0);
@@ -135,10 +141,17 @@ struct GrowableBuffer {
 // Within the byte limit no character is split; the buffer grows only when
 // the text needs more room, by exactly what it needs.
 TEST(MbcsToUtf8Callback, ByteLimitAndGrowth) {
-  const struct { std::string text; unsigned capacity, limit; bool refuse; int result; const char* buffer; std::vector<unsigned> grows; } cases[] = {
+  const struct {
+    std::string text;
+    unsigned capacity, limit;
+    bool refuse;
+    int result;
+    const char* buffer;
+    std::vector<unsigned> grows;
+  } cases[] = {
       {"abcdefghijkl", 0, 10, false, 9, "abcdefghi", {}},
       {"\xE9\xE9\xE9\xE9\xE9", 0, 6, false, 4, "\xC3\xA9\xC3\xA9", {}},  // two 2-byte characters and the NUL
-      {"\xE9\xE9", 0, 5, false, 4, "\xC3\xA9\xC3\xA9", {5}},            // exactly at the limit
+      {"\xE9\xE9", 0, 5, false, 4, "\xC3\xA9\xC3\xA9", {5}},             // exactly at the limit
       {"caf\xE9", 64, 0, false, 5, "caf\xC3\xA9", {}},
       {"\xE9\xE9\xE9", 0, 0, false, 6, "\xC3\xA9\xC3\xA9\xC3\xA9", {7}},
       {"\xE9\xE9\xE9", 0, 0, true, -1, nullptr, {7}},
@@ -190,7 +203,13 @@ TEST(HandleConversion, ResultsTextsAndTheDefaultCharacterFlag) {
   const Convert to_utf8_or_back = [](HGLOBAL* handle, int page) {
     return KILNUTIL_UNICODE_mbcs_to_UTF8_or_back_handle(handle, 0, page);
   };
-  const struct { std::string text; Convert convert; int code_page, result; std::string after; int used; } cases[] = {
+  const struct {
+    std::string text;
+    Convert convert;
+    int code_page, result;
+    std::string after;
+    int used;
+  } cases[] = {
       {"na\xEFve caf\xE9", to_utf8, 1252, 13, "na\xC3\xAFve caf\xC3\xA9", 7},
       {"na\xC3\xAFve caf\xC3\xA9", from_utf8, 1252, 11, "na\xEFve caf\xE9", 0},
       {"x\xE6\x97\xA5y", from_utf8, 1252, 4, "x?y", 1},
@@ -235,11 +254,20 @@ TEST(HandleConversion, Utf8ToUtf16Handle) {
 // Sample texts in each code page, compared with glibc's iconv on characters
 // both converters map the same way.
 TEST(CodePageTables, AgreeWithIconvOnSampleTexts) {
-  const struct { int code_page; const char* iconv_name; const char* utf8; } samples[] = {
-      {1252, "CP1252", "\xE2\x80\x9C" "Caf\xC3\xA9 na\xC3\xAFve \xE2\x82\xAC" "5 \xC2\xBD \xC3\x9F\xC3\xB8\xC3\x85\xE2\x80\x9D \xE2\x84\xA2"},
-      {932, "CP932", "\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E\xE3\x81\xAE\xE3\x83\x86\xE3\x82\xAD\xE3\x82\xB9\xE3\x83\x88 "
-                     "\xEF\xBD\xB1\xEF\xBD\xB2 ABC \xE3\x80\x82"},
-      {936, "CP936", "\xE4\xB8\xAD\xE6\x96\x87\xE6\x96\x87\xE6\x9C\xAC\xEF\xBC\x8C\xE6\xB5\x8B\xE8\xAF\x95 ABC \xE3\x80\x82"},
+  const struct {
+    int code_page;
+    const char* iconv_name;
+    const char* utf8;
+  } samples[] = {
+      {1252, "CP1252",
+       "\xE2\x80\x9C"
+       "Caf\xC3\xA9 na\xC3\xAFve \xE2\x82\xAC"
+       "5 \xC2\xBD \xC3\x9F\xC3\xB8\xC3\x85\xE2\x80\x9D \xE2\x84\xA2"},
+      {932, "CP932",
+       "\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E\xE3\x81\xAE\xE3\x83\x86\xE3\x82\xAD\xE3\x82\xB9\xE3\x83\x88 "
+       "\xEF\xBD\xB1\xEF\xBD\xB2 ABC \xE3\x80\x82"},
+      {936, "CP936",
+       "\xE4\xB8\xAD\xE6\x96\x87\xE6\x96\x87\xE6\x9C\xAC\xEF\xBC\x8C\xE6\xB5\x8B\xE8\xAF\x95 ABC \xE3\x80\x82"},
   };
   for (const auto& sample : samples) {
     const auto expected = iconv_convert("UTF-8", sample.iconv_name, sample.utf8);

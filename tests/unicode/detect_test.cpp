@@ -43,30 +43,56 @@ TEST(DetectBuffer, Answers) {
     unsigned expected;
   } cases[] = {
       // Marks in their fixed order: FF FE first, so a UTF-32LE mark is UTF-16LE.
-      {"\xFF\xFE" "a\0"s, 0, 258}, {"\xFE\xFF\0a"s, 0, 259}, {"\xEF\xBB\xBF" "abc", 0, 257},
-      {"\xFF\xFE\0\0"s, 0, 258}, {"\0\0\xFE\xFF"s, 0, 261},
+      {"\xFF\xFE"
+       "a\0"s,
+       0, 258},
+      {"\xFE\xFF\0a"s, 0, 259},
+      {"\xEF\xBB\xBF"
+       "abc",
+       0, 257},
+      {"\xFF\xFE\0\0"s, 0, 258},
+      {"\0\0\xFE\xFF"s, 0, 261},
       // Flag bit 0 means marks only (other bits don't count); marks cut short are none.
-      {"\xEF\xBB", 1, 0}, {"\xFF", 1, 0}, {"caf\xC3\xA9", 1, 0}, {"caf\xC3\xA9", 2, 1},
+      {"\xEF\xBB", 1, 0},
+      {"\xFF", 1, 0},
+      {"caf\xC3\xA9", 1, 0},
+      {"caf\xC3\xA9", 2, 1},
       // ASCII is not UTF-8.
-      {"plain text, 7-bit only\r\n", 0, 512}, {std::string(1000, 'x'), 0, 512}, {"", 0, 512},
+      {"plain text, 7-bit only\r\n", 0, 512},
+      {std::string(1000, 'x'), 0, 512},
+      {"", 0, 512},
       // UTF-8; overlong three-byte forms and encoded surrogates are not checked.
-      {"caf\xC3\xA9", 0, 1}, {"\xE2\x82\xAC 5", 0, 1}, {"\xF0\x9F\x98\x80", 0, 1}, {"\xE0\x80\x80", 0, 1},
+      {"caf\xC3\xA9", 0, 1},
+      {"\xE2\x82\xAC 5", 0, 1},
+      {"\xF0\x9F\x98\x80", 0, 1},
+      {"\xE0\x80\x80", 0, 1},
       {"\xED\xA0\x80", 0, 1},
       // C0, C1, F5-FF can't lead, nor can a continuation byte; a continuation byte must follow a lead.
-      {"a\xC0\x80", 0, 0}, {"a\xC1\xBF", 0, 0}, {"\xF5\x80\x80\x80", 0, 0}, {"\xFF", 0, 0}, {"\x80", 0, 0},
+      {"a\xC0\x80", 0, 0},
+      {"a\xC1\xBF", 0, 0},
+      {"\xF5\x80\x80\x80", 0, 0},
+      {"\xFF", 0, 0},
+      {"\x80", 0, 0},
       {"\xC3\x41", 0, 0},
       // A buffer cut inside a sequence passes; a lead byte alone at the end continued nothing: ASCII.
-      {"\xC3\xA9 and \xE2\x82", 0, 1}, {"abc\xE2", 0, 512},
+      {"\xC3\xA9 and \xE2\x82", 0, 1},
+      {"abc\xE2", 0, 512},
       // The fault found after long ASCII runs.
-      {as + "\xC3\xA9", 0, 1}, {as + "\xC3\xA9" + as + "\xFF" + as, 0, 0},
+      {as + "\xC3\xA9", 0, 1},
+      {as + "\xC3\xA9" + as + "\xFF" + as, 0, 0},
       // Zero bytes send UTF-8 on to the UTF-16 tests: line ends, else the zero ratios, decide.
-      {"a\0b\0\r\0\n\0"s, 0, 2}, {"\0a\0b\0\r\0\n"s, 0, 3}, {"h\0e\0l\0l\0o\0"s, 0, 2},
-      {"\0h\0e\0l\0l\0o"s, 0, 3}, {mixed_line_ends, 0, 2}, {"\0\0ab\0\0cd"s, 0, 0}, {as + '\0' + as, 0, 0},
+      {"a\0b\0\r\0\n\0"s, 0, 2},
+      {"\0a\0b\0\r\0\n"s, 0, 3},
+      {"h\0e\0l\0l\0o\0"s, 0, 2},
+      {"\0h\0e\0l\0l\0o"s, 0, 3},
+      {mixed_line_ends, 0, 2},
+      {"\0\0ab\0\0cd"s, 0, 0},
+      {as + '\0' + as, 0, 0},
   };
   for (const auto& c : cases) EXPECT_EQ(detect(c.bytes, c.flags), c.expected) << testing::PrintToString(c.bytes);
   // Marks and their sizes; the mark bit on the code-page family or without a
   // known family means no mark.
-  const std::pair<unsigned, int> sizes[] = {{257, 3}, {258, 2}, {259, 2}, {260, 4}, {261, 4},
+  const std::pair<unsigned, int> sizes[] = {{257, 3}, {258, 2}, {259, 2},   {260, 4},  {261, 4},
                                             {1, 0},   {255, 0}, {0x100, 0}, {0x106, 0}};
   for (const auto& [code, size] : sizes) EXPECT_EQ(KILNUTIL_GetBOMSize(code), size) << code;
 }
@@ -90,7 +116,9 @@ TEST(DetectGuess, SettingOffMeansMarksOnly) {
   GuessSetting setting(0);
   EXPECT_EQ(KILNUTIL_DetectEncodingNeedGuess_GetSet(1, 0), 0u);
   EXPECT_EQ(detect("caf\xC3\xA9"), 0u);
-  EXPECT_EQ(detect("\xEF\xBB\xBF" "abc"), 257u);
+  EXPECT_EQ(detect("\xEF\xBB\xBF"
+                   "abc"),
+            257u);
 }
 
 TEST(DetectStream, RestoresThePositionAndReadsOnlyTheStart) {
@@ -110,23 +138,32 @@ TEST(DetectStream, RestoresThePositionAndReadsOnlyTheStart) {
   write_file(path, "ab\xC3\xA9");
   EXPECT_EQ(KILNUTIL_DetectEncodingFile(path.c_str(), 0, 0), 1u);
   EXPECT_EQ(KILNUTIL_DetectEncodingFile(path.c_str(), 0, 1), 0u);
-  write_file(path, "\xEF\xBB\xBF" "a\xFF");
+  write_file(path,
+             "\xEF\xBB\xBF"
+             "a\xFF");
   EXPECT_EQ(KILNUTIL_DetectEncodingFile(path.c_str(), 0, 1), 257u);
 }
 
 TEST(DetectFile, FilesWrittenByIconvEmptyAndMissing) {
   TempFolder folder;
   const std::string path = folder.file("text.txt");
-  const std::string text = "Gr\xC3\xBC\xC3\x9F" "e, \xE6\x97\xA5\xE6\x9C\xAC\r\nzweite Zeile\r\n";
+  const std::string text =
+      "Gr\xC3\xBC\xC3\x9F"
+      "e, \xE6\x97\xA5\xE6\x9C\xAC\r\nzweite Zeile\r\n";
   const struct {
     const char* encoding;
     std::string prefix;
     std::string text;
     unsigned expected;
   } cases[] = {
-      {"UTF-16LE", "", text, 2},    {"UTF-16BE", "", text, 3}, {"UTF-16LE", "\xFF\xFE", text, 258},
-      {"UTF-16BE", "\xFE\xFF", text, 259}, {"UTF-8", "\xEF\xBB\xBF", text, 257}, {"UTF-8", "", text, 1},
-      {"SHIFT_JIS", "", "\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E\r\n", 0}, {"ASCII", "", "only ASCII here\n", 512},
+      {"UTF-16LE", "", text, 2},
+      {"UTF-16BE", "", text, 3},
+      {"UTF-16LE", "\xFF\xFE", text, 258},
+      {"UTF-16BE", "\xFE\xFF", text, 259},
+      {"UTF-8", "\xEF\xBB\xBF", text, 257},
+      {"UTF-8", "", text, 1},
+      {"SHIFT_JIS", "", "\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E\r\n", 0},
+      {"ASCII", "", "only ASCII here\n", 512},
   };
   for (const auto& c : cases) {
     const auto converted = iconv_convert("UTF-8", c.encoding, c.text);
@@ -163,10 +200,11 @@ TEST(DetectSizes, ByExtension) {
   ASSERT_EQ(KILNUTIL_DetectEncoding_GetSet_BufferSize(1, &txt, 1), 0);
   ASSERT_EQ(KILNUTIL_DetectEncoding_GetSet_BufferSize(1, &other, 2), 0);
   const std::pair<const char*, unsigned> paths[] = {
-      {"C:\\data\\a.csv", 1000}, {"/data/A.CsV", 1000},   {"notes.TXT", 2000},   {"notes.txt.bak", 0},
-      {"C:\\my.csv\\file", 0},    {"/my.txt/file", 0},     {"noextension", 0},    {nullptr, 0},
+      {"C:\\data\\a.csv", 1000}, {"/data/A.CsV", 1000}, {"notes.TXT", 2000}, {"notes.txt.bak", 0},
+      {"C:\\my.csv\\file", 0},   {"/my.txt/file", 0},   {"noextension", 0},  {nullptr, 0},
   };
-  for (const auto& [path, size] : paths) EXPECT_EQ(KILNUTIL_DetectEncoding_GetBufSizeFromFilePath(path), size) << (path ? path : "null");
+  for (const auto& [path, size] : paths)
+    EXPECT_EQ(KILNUTIL_DetectEncoding_GetBufSizeFromFilePath(path), size) << (path ? path : "null");
   // Counts of 2^63 and more keep their top bit; the path result is the low 32 bits.
   double huge = 9223372036854775808.0 + 4096.0 * 1024;
   ASSERT_EQ(KILNUTIL_DetectEncoding_GetSet_BufferSize(1, &huge, 0), 0);

@@ -1,6 +1,6 @@
 #include "test_files.h"
 
-#include "unicode/file_replacement.h"
+#include "platform/file_replacement.h"
 #include "unicode/file_rewrites.h"
 
 #include <kilnutil/frame.h>
@@ -19,6 +19,8 @@
 
 namespace {
 
+using kiln::platform::FileReplacement;
+using kiln::platform::ReplaceStatus;
 using kiln_test::iconv_convert;
 using kiln_test::read_file;
 using kiln_test::TempFolder;
@@ -72,7 +74,13 @@ TEST(Rewrites, ResultCodesAndContents) {
   // Characters above U+FFFF go to the streamed path as their low 16 bits: U+F600, which 1252 has no form for.
   const std::string emoji = kMark + "a\xF0\x9F\x98\x80";
   const std::string cafe_1252 = *iconv_convert("UTF-8", "CP1252", kCafe);
-  const struct { std::string before; Rewrite rewrite; unsigned string_page; int result; std::string after; } cases[] = {
+  const struct {
+    std::string before;
+    Rewrite rewrite;
+    unsigned string_page;
+    int result;
+    std::string after;
+  } cases[] = {
       {"ascii only\n", insert_mark(1), 0, 1, "ascii only\n"},
       {"ascii only\n", insert_mark(0), 0, 2, kMark + "ascii only\n"},
       {kMark + "ascii only\n", insert_mark(0), 0, 0, kMark + "ascii only\n"},
@@ -136,7 +144,11 @@ TEST(RewriteFailure, FileSizeLimitLeavesTheOriginal) {
   TempFolder folder;
   const std::string path = folder.file("limited.txt");
   const std::string text = std::string(5000, 'x') + kCafe;
-  const struct { std::string original; Rewrite rewrite; int result; } cases[] = {
+  const struct {
+    std::string original;
+    Rewrite rewrite;
+    int result;
+  } cases[] = {
       {text, insert_mark(0), -321}, {kMark + text, to_code_page(1252), -321}, {std::string(5000, 'y'), make_utf16, 0}};
   for (const auto& c : cases) {
     write_file(path, c.original);
@@ -182,7 +194,12 @@ TEST(RewriteFailure, ReplacementsOnlyEverReplaceTheirOriginal) {
   TempFolder folder;
   const std::string path = folder.file("old.txt");
   const std::string other = folder.file("other");
-  const struct { const char* what; std::function<void()> meanwhile; const char* left; size_t entries; } cases[] = {
+  const struct {
+    const char* what;
+    std::function<void()> meanwhile;
+    const char* left;
+    size_t entries;
+  } cases[] = {
       {"vanished", [&] { std::remove(path.c_str()); }, "", 0},
       {"replaced",
        [&] {

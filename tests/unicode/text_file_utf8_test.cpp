@@ -18,7 +18,9 @@ using kiln_test::iconv_convert;
 using kiln_test::TempFolder;
 using kiln_test::write_file;
 
-const std::string kText = "Gr\xC3\xBC\xC3\x9F" "e \xE2\x82\xAC\r\nzweite Zeile\r\n";
+const std::string kText =
+    "Gr\xC3\xBC\xC3\x9F"
+    "e \xE2\x82\xAC\r\nzweite Zeile\r\n";
 
 std::string read_rest(FILE* stream) {
   std::string text;
@@ -72,11 +74,18 @@ TEST_F(OpenAsUtf8, ConvertedCopies) {
   const std::string japanese = "\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E\n";
   // Long enough to be converted in pieces, with a surrogate pair across the first boundary.
   const std::string long_text = std::string(kiln::unicode::kUtf16ChunkUnits - 1, 'x') + "\xF0\x9F\x98\x80" + kText;
-  const struct { const char* what; std::string bytes; unsigned code_page; int write_mark, guess; std::string copy; } cases[] = {
+  const struct {
+    const char* what;
+    std::string bytes;
+    unsigned code_page;
+    int write_mark, guess;
+    std::string copy;
+  } cases[] = {
       {"UTF-16LE", "\xFF\xFE" + *iconv_convert("UTF-8", "UTF-16LE", long_text), 1252, 0, 1, long_text},
       {"unmarked UTF-16LE, guessed; mark asked for", *iconv_convert("UTF-8", "UTF-16LE", kText), 1252, 1, 1,
        "\xEF\xBB\xBF" + kText},
-      {"code-page text in the effective code page", *iconv_convert("UTF-8", "SHIFT_JIS", japanese), 932, 0, 1, japanese},
+      {"code-page text in the effective code page", *iconv_convert("UTF-8", "SHIFT_JIS", japanese), 932, 0, 1,
+       japanese},
       {"plain ASCII", "just ASCII\n", 1252, 0, 1, "just ASCII\n"},
       {"unmarked UTF-16 without guessing: code-page text up to its first zero byte", "a\0b\0"s, 1252, 0, 0, "a"},
       {"an empty file", "", 1252, 1, 1, "\xEF\xBB\xBF"},
@@ -103,11 +112,19 @@ TEST_F(OpenAsUtf8, ConvertedCopies) {
 // big-endian text is handed back at its start.
 TEST_F(OpenAsUtf8, StreamsHandedBackInPlace) {
   using namespace std::string_literals;
-  const struct { const char* what; std::string bytes; int keep_mark, no_conversion, mark_size; long position; } cases[] = {
+  const struct {
+    const char* what;
+    std::string bytes;
+    int keep_mark, no_conversion, mark_size;
+    long position;
+  } cases[] = {
       {"UTF-8", "\xEF\xBB\xBF" + kText, 0, 0, 3, 3},
       {"UTF-8, mark kept", "\xEF\xBB\xBF" + kText, 1, 0, 3, 0},
       {"UTF-16BE", "\xFE\xFF" + *iconv_convert("UTF-8", "UTF-16BE", kText), 0, 0, 2, 0},
-      {"UTF-16LE, no conversion", "\xFF\xFE" "a\0b\0\0"s, 0, 1, 2, 2},
+      {"UTF-16LE, no conversion",
+       "\xFF\xFE"
+       "a\0b\0\0"s,
+       0, 1, 2, 2},
   };
   for (const auto& c : cases) {
     context_.keep_mark = c.keep_mark;
@@ -159,8 +176,8 @@ TEST(Utf16StreamToUtf8, MatchesTheWholeTextConversionAtEveryChunkSize) {
       units += static_cast<KILN_WCHAR>(bytes.back());
     }
     std::string expected(units.size() * 3 + 1, '\0');
-    expected.resize(static_cast<size_t>(std::max(0, KILNUTIL_UNICODE_UTF16_to_UTF8_buffers(
-                                                        expected.data(), static_cast<int>(expected.size()), units.c_str()))));
+    expected.resize(static_cast<size_t>(std::max(
+        0, KILNUTIL_UNICODE_UTF16_to_UTF8_buffers(expected.data(), static_cast<int>(expected.size()), units.c_str()))));
     for (const size_t chunk_units : {2, 3, 5, 64}) {
       FILE* in = std::tmpfile();
       FILE* out = std::tmpfile();

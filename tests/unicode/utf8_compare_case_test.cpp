@@ -36,11 +36,17 @@ TEST(Utf8Compare, IgnoringCase) {
 }
 
 TEST(Utf8Case, WholeStringInPlace) {
-  char text[] = "Stra\xC3\x9F" "e \xC3\xA9t\xC3\xA9 abc";
+  char text[] =
+      "Stra\xC3\x9F"
+      "e \xC3\xA9t\xC3\xA9 abc";
   EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_upper_or_to_lower(text, 0, 0, 0), text);
-  EXPECT_STREQ(text, "STRA\xC3\x9F" "E \xC3\x89T\xC3\x89 ABC");
+  EXPECT_STREQ(text,
+               "STRA\xC3\x9F"
+               "E \xC3\x89T\xC3\x89 ABC");
   KILNUTIL_UNICODE_UTF8_to_upper_or_to_lower(text, 1, 0, -1);
-  EXPECT_STREQ(text, "stra\xC3\x9F" "e \xC3\xA9t\xC3\xA9 abc");
+  EXPECT_STREQ(text,
+               "stra\xC3\x9F"
+               "e \xC3\xA9t\xC3\xA9 abc");
 }
 
 TEST(Utf8Case, OnlyTheFirstLenBytes) {

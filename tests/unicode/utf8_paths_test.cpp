@@ -68,7 +68,11 @@ TEST(UnicodeFileToAnsi, WritesUtf16TextAsAnsiText) {
   TempFolder folder;
   const std::string source = folder.file("w.txt");
   const std::string target = folder.file("a.txt");
-  const struct { std::string source; int result; std::string target; } cases[] = {
+  const struct {
+    std::string source;
+    int result;
+    std::string target;
+  } cases[] = {
       {"\xFF\xFE" + *iconv_convert("UTF-8", "UTF-16LE", "caf\xC3\xA9\r\n"), 1, "caf\xE9\r\n"},
       {*iconv_convert("UTF-8", "UTF-16LE", "xy\r\n"), 1, "y\r\n"},
       {"plain narrow text\n", 0, ""},

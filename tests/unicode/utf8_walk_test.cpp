@@ -35,13 +35,22 @@ struct WalkCase {
 
 TEST(Utf8Walk, MalformedInputFollowsTheLeadByteBits) {
   const WalkCase cases[] = {
-      {"\xC3", {1}},                      // lead before the NUL
-      {"\x85" "A", {2}},                  // stray continuation = two-byte lead
-      {"\xB0" "abc", {4}},                // 0xB0 = four-byte lead
-      {"\xA5" "ab" "c", {3, 1}},          // 0xA5 = three-byte lead
-      {"\xFF" "abcd", {4, 1}},            // 0xF8-0xFF = four-byte leads
-      {"\xE6\x97", {2}},                  // cut short by the NUL
-      {"\xF0\x9F\x98", {3}},              // fourth byte is the NUL
+      {"\xC3", {1}},  // lead before the NUL
+      {"\x85"
+       "A",
+       {2}},  // stray continuation = two-byte lead
+      {"\xB0"
+       "abc",
+       {4}},  // 0xB0 = four-byte lead
+      {"\xA5"
+       "ab"
+       "c",
+       {3, 1}},  // 0xA5 = three-byte lead
+      {"\xFF"
+       "abcd",
+       {4, 1}},               // 0xF8-0xFF = four-byte leads
+      {"\xE6\x97", {2}},      // cut short by the NUL
+      {"\xF0\x9F\x98", {3}},  // fourth byte is the NUL
       {"\xF0\x9F", {2}},
       {"a\xC3\xA9 b", {1, 2, 1, 1}},
       {"\xE6\x97\xA5\xF0\x9F\x98\x80", {3, 4}},
@@ -65,7 +74,9 @@ TEST(Utf8Walk, MalformedInputFollowsTheLeadByteBits) {
 TEST(Utf8Walk, DecodeKeepsTheGatheredBitsWhenCutShort) {
   EXPECT_EQ(KILNUTIL_UNICODE_UTF8_get_char("\xC3"), 0xC0u);
   EXPECT_EQ(KILNUTIL_UNICODE_UTF8_get_char("\xE6\x97"), 0x65C0u);
-  EXPECT_EQ(KILNUTIL_UNICODE_UTF8_get_char("\x85" "A"), 0x141u);
+  EXPECT_EQ(KILNUTIL_UNICODE_UTF8_get_char("\x85"
+                                           "A"),
+            0x141u);
   EXPECT_EQ(KILNUTIL_UNICODE_UTF8_get_char("\xC0\x80"), 0u);  // overlong forms are not checked
   EXPECT_EQ(KILNUTIL_UNICODE_UTF8_get_char("\xF7\xBF\xBF\xBF"), 0x1FFFFFu);
   EXPECT_EQ(KILNUTIL_UNICODE_UTF8_get_char("\xED\xA0\x80"), 0xD800u);  // nor surrogates
@@ -107,7 +118,7 @@ TEST(Utf8Walk, LengthAgreesWithTheCharacterByCharacterRuleOnAnyBytes) {
     const bool mostly_ascii = round % 2 == 0;
     for (int i = 0; i < length; ++i) {
       s += (mostly_ascii && random() % 16 != 0) ? static_cast<char>('a' + random() % 26)
-                                                 : alphabet[random() % (sizeof alphabet - 1)];
+                                                : alphabet[random() % (sizeof alphabet - 1)];
     }
     ASSERT_EQ(KILNUTIL_UNICODE_UTF8_StrLength(s.c_str()), reference_length(s)) << round;
   }

@@ -70,7 +70,7 @@ int run_to_utf8(Args args) {
   Options options;
   if (!parse(args, options)) return usage_error("to-utf8 takes FILE [-o OUT] [-c CODEPAGE]");
   if (std::strlen(options.input) >= sizeof(TextFileToUTF8Context::path)) return input_error("path too long");
-  if (options.code_page != nullptr) set_code_page_for_string_process(std::strtoul(options.code_page, nullptr, 10));
+  if (options.code_page != nullptr) set_code_page_for_string_process(static_cast<unsigned>(std::strtoul(options.code_page, nullptr, 10)));
 
   TextFileToUTF8Context context;
   KILNUTIL_UNICODE_open_text_file_to_UTF8_INIT(&context);

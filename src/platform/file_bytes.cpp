@@ -1,16 +1,16 @@
-#include "unicode/file_bytes.h"
+#include "platform/file_bytes.h"
 
-#include <sys/types.h>
+#include "platform/file_system.h"
 
 #include <new>
 
-namespace kiln::unicode {
+namespace kiln::platform {
 
 long long stream_size(FILE* stream) {
-  const off_t position = ftello(stream);
-  if (position < 0 || fseeko(stream, 0, SEEK_END) != 0) return -1;
-  const off_t size = ftello(stream);
-  fseeko(stream, position, SEEK_SET);
+  const long long position = stream_position(stream);
+  if (position < 0 || !seek_stream_end(stream)) return -1;
+  const long long size = stream_position(stream);
+  seek_stream(stream, position);
   return size;
 }
 
@@ -36,4 +36,4 @@ ReadStatus read_whole_file(const char* path, FileBytes& bytes, size_t zero_bytes
   return status;
 }
 
-}  // namespace kiln::unicode
+}  // namespace kiln::platform

@@ -6,7 +6,7 @@
 #include <cstdio>
 #include <memory>
 
-namespace kiln::unicode {
+namespace kiln::platform {
 
 enum class ReadStatus { kOk, kCantOpen, kEmpty, kNoMemory, kShortRead };
 
@@ -21,4 +21,4 @@ ReadStatus read_whole_file(const char* path, FileBytes& bytes, size_t zero_bytes
 // The stream's size in bytes, or -1 when it can't be had; the position is kept.
 long long stream_size(FILE* stream);
 
-}  // namespace kiln::unicode
+}  // namespace kiln::platform

@@ -8,7 +8,7 @@
 #include <initializer_list>
 #include <string>
 
-namespace kiln::unicode {
+namespace kiln::platform {
 
 enum class ReplaceStatus {
   kDone,
@@ -54,4 +54,4 @@ private:
 // create(), write() of each range, commit().
 ReplaceStatus replace_file(const char* path, std::initializer_list<ByteRange> contents);
 
-}  // namespace kiln::unicode
+}  // namespace kiln::platform

@@ -1,4 +1,4 @@
-#include "unicode/file_replacement.h"
+#include "platform/file_replacement.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -9,7 +9,7 @@
 #include <cstdlib>
 #include <vector>
 
-namespace kiln::unicode {
+namespace kiln::platform {
 
 namespace {
 
@@ -89,9 +89,8 @@ ReplaceStatus FileReplacement::commit() {
   }
   struct stat now {};
   const bool exists_now = stat(path_.c_str(), &now) == 0;
-  const bool unchanged = original_existed_
-                             ? exists_now && now.st_dev == original_device_ && now.st_ino == original_inode_
-                             : !exists_now;
+  const bool unchanged =
+      original_existed_ ? exists_now && now.st_dev == original_device_ && now.st_ino == original_inode_ : !exists_now;
   if (!unchanged) {
     discard();
     return ReplaceStatus::kVanished;
@@ -114,4 +113,4 @@ ReplaceStatus replace_file(const char* path, std::initializer_list<ByteRange> co
   return replacement.commit();
 }
 
-}  // namespace kiln::unicode
+}  // namespace kiln::platform

@@ -1,0 +1,20 @@
+# Reads src/*/exports.txt under source_dir: one exported name a line (a C
+# name, or a C++ member as `nm -DC` prints it); blank lines and lines that
+# start with "#" are skipped. Shared by the version script (configure time)
+# and the exported-set test (script mode).
+function(kilnutil_read_export_lists out_var source_dir)
+  file(GLOB lists "${source_dir}/src/*/exports.txt")
+  list(SORT lists)
+  set(names "")
+  foreach(list_file IN LISTS lists)
+    file(STRINGS "${list_file}" lines)
+    foreach(line IN LISTS lines)
+      string(STRIP "${line}" line)
+      if(line STREQUAL "" OR line MATCHES "^#")
+        continue()
+      endif()
+      list(APPEND names "${line}")
+    endforeach()
+  endforeach()
+  set(${out_var} "${names}" PARENT_SCOPE)
+endfunction()
