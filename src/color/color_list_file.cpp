@@ -5,7 +5,7 @@
 #include "color/ini_section.h"
 #include "color/packed_models.h"
 #include "color/text_file_read.h"
-#include "unicode/file_replacement.h"
+#include "platform/file_replacement.h"
 
 #include <kilnutil/color.h>
 
@@ -73,7 +73,7 @@ bool save_color_list(const char* path) {
   std::vector<IniEntry> entries;
   for (int i = 0; i < list_count(); ++i) entries.push_back({list_name(i), rgb_value_text(list_rgb(i))});
   const std::string updated = with_section_replaced(text, kSection, entries);
-  return unicode::replace_file(path, {{updated.data(), updated.size()}}) == unicode::ReplaceStatus::kDone;
+  return platform::replace_file(path, {{updated.data(), updated.size()}}) == platform::ReplaceStatus::kDone;
 }
 
 }  // namespace kiln::color

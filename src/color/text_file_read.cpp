@@ -4,7 +4,7 @@
 #include "frame/settings.h"
 #include "platform/codepage.h"
 #include "unicode/encoding_detect.h"
-#include "unicode/file_bytes.h"
+#include "platform/file_bytes.h"
 #include "unicode/utf8.h"
 
 #include <vector>
@@ -77,11 +77,11 @@ bool code_page_to_utf8(const unsigned char* p, std::size_t size, std::string& ut
 }  // namespace
 
 TextFileStatus read_text_file_as_utf8(const char* path, std::string& utf8) {
-  unicode::FileBytes bytes;
-  const unicode::ReadStatus read = unicode::read_whole_file(path, bytes);
+  platform::FileBytes bytes;
+  const platform::ReadStatus read = platform::read_whole_file(path, bytes);
   utf8.clear();
-  if (read == unicode::ReadStatus::kEmpty) return TextFileStatus::kOk;
-  if (read != unicode::ReadStatus::kOk) return TextFileStatus::kCantRead;
+  if (read == platform::ReadStatus::kEmpty) return TextFileStatus::kOk;
+  if (read != platform::ReadStatus::kOk) return TextFileStatus::kCantRead;
   const unsigned code = unicode::detect_encoding(bytes.data.get(), bytes.size, 0);
   const std::size_t mark = mark_size_of(code);
   const unsigned char* body = bytes.data.get() + mark;

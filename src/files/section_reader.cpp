@@ -5,7 +5,7 @@
 #include "files/preamble_scan.h"
 #include "files/section_header.h"
 #include "files/text_file_reader.h"
-#include "unicode/file_bytes.h"
+#include "platform/file_bytes.h"
 
 #include <kilnutil/files.h>
 
@@ -86,7 +86,7 @@ HGLOBAL read_preamble(FILE* stream) {
 // the NUL.
 HGLOBAL read_whole_text(FILE* stream) {
   const long start = std::ftell(stream);
-  const long long size = unicode::stream_size(stream);
+  const long long size = platform::stream_size(stream);
   if (start < 0 || size < 0) return nullptr;
   const long long length = size - start;
   if (length > 0) return read_block(stream, length);

@@ -4,8 +4,8 @@
 
 #include "files/section_header.h"
 #include "locale/language_table.h"
-#include "unicode/file_bytes.h"
-#include "unicode/file_replacement.h"
+#include "platform/file_bytes.h"
+#include "platform/file_replacement.h"
 
 #include <cctype>
 #include <cstdlib>
@@ -73,8 +73,8 @@ bool language_value(const std::string& line, std::string_view& value) {
 
 std::string read_settings() {
   const std::string path = settings_file_path();
-  unicode::FileBytes bytes;
-  if (path.empty() || unicode::read_whole_file(path.c_str(), bytes) != unicode::ReadStatus::kOk) return {};
+  platform::FileBytes bytes;
+  if (path.empty() || platform::read_whole_file(path.c_str(), bytes) != platform::ReadStatus::kOk) return {};
   return std::string(reinterpret_cast<const char*>(bytes.data.get()), bytes.size);
 }
 
@@ -148,7 +148,7 @@ bool store_language_letter(char letter) {
   std::error_code error;
   std::filesystem::create_directories(std::filesystem::path(path).parent_path(), error);
   const std::string text = with_language(read_settings(), letter);
-  return unicode::replace_file(path.c_str(), {{text.data(), text.size()}}) == unicode::ReplaceStatus::kDone;
+  return platform::replace_file(path.c_str(), {{text.data(), text.size()}}) == platform::ReplaceStatus::kDone;
 }
 
 unsigned char process_locale_language_index() {
