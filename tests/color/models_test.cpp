@@ -141,6 +141,20 @@ TEST(ColorModelConvertTo, SameTypeCopiesComponents) {
   EXPECT_EQ(target.h, 30);
   EXPECT_EQ(target.s, 0);
   EXPECT_EQ(target.l, 250);
+
+  // CopyTo itself: every component, and nothing into an object of another type.
+  Cmyk cmyk_source(0.1, 0.2, 0.3, 0.4);
+  Cmyk cmyk_target;
+  cmyk_source.CopyTo(cmyk_target);
+  EXPECT_EQ(cmyk_target.c, 0.1);
+  EXPECT_EQ(cmyk_target.m, 0.2);
+  EXPECT_EQ(cmyk_target.y, 0.3);
+  EXPECT_EQ(cmyk_target.k, 0.4);
+  Lch lch(50, 40, 90);
+  Lab untouched(1, 2, 3);
+  lch.CopyTo(untouched);
+  EXPECT_EQ(untouched.l, 1);
+  EXPECT_EQ(untouched.b, 3);
 }
 
 // The formulas of HSV, HSB, CMY and CMYK invert each other exactly in real
@@ -281,6 +295,21 @@ TEST(ColorFlatExports, PackingRules) {
       {"HSL fractions", HSLtoRGB(2.0 / 3, 1, 0.5), 0xFF0000},
   };
   for (const auto& c : cases) EXPECT_EQ(c.got, c.want) << c.what;
+
+  // RGBtoHSV: hue in degrees, saturation and value as fractions; no chroma gives hue 0.
+  const struct { unsigned rgb; double hue, saturation, value; } hsv_cases[] = {
+      {0x0000FF, 0, 1, 1},    {0xFF0000, 240, 1, 1}, {0x00FFFF, 60, 1, 1},
+      {0xFF00FF, 300, 1, 1},  {0x0080FF, 60 * 128 / 255.0, 1, 1},
+      {0x404040, 0, 0, 64 / 255.0}, {0xFF000000, 0, 0, 0},  // the fourth byte is ignored
+      {0x000080, 0, 1, 128 / 255.0},
+  };
+  for (const auto& c : hsv_cases) {
+    double hue = -1, saturation = -1, value = -1;
+    RGBtoHSV(c.rgb, &hue, &saturation, &value);
+    EXPECT_NEAR(hue, c.hue, 1e-12) << std::hex << c.rgb;
+    EXPECT_NEAR(saturation, c.saturation, 1e-15) << std::hex << c.rgb;
+    EXPECT_NEAR(value, c.value, 1e-15) << std::hex << c.rgb;
+  }
 
   double h, s, l;
   RGBtoHSL(0xFF0000, &h, &s, &l);

@@ -7,6 +7,8 @@
 #include <map>
 #include <string>
 
+#include <kilnutil/math.h>
+
 #include "frame/missing_value.h"
 #include "math/elementary.h"
 #include "math/error_code.h"
@@ -23,7 +25,7 @@ using Function = double (*)(double, double);
 const std::map<std::string, Function>& functions() {
   static const std::map<std::string, Function> table = {
       {"sqrt", [](double x, double) { return m::script_sqrt(x); }},
-      {"ln", [](double x, double) { return m::script_ln(x); }},
+      {"ln", [](double x, double) { return ln(x); }},
       {"log10", [](double x, double) { return m::script_log10(x); }},
       {"log1p", [](double x, double) { return m::script_log1p(x); }},
       {"expm1", [](double x, double) { return m::script_expm1(x); }},
@@ -35,26 +37,26 @@ const std::map<std::string, Function>& functions() {
       {"asinh", [](double x, double) { return m::script_asinh(x); }},
       {"acosh", [](double x, double) { return m::script_acosh(x); }},
       {"atanh", [](double x, double) { return m::script_atanh(x); }},
-      {"cot", [](double x, double) { return m::script_cot(x); }},
-      {"acot", [](double x, double) { return m::script_acot(x); }},
-      {"coth", [](double x, double) { return m::script_coth(x); }},
-      {"acoth", [](double x, double) { return m::script_acoth(x); }},
-      {"secant", [](double x, double) { return m::script_secant(x); }},
-      {"csc", [](double x, double) { return m::script_csc(x); }},
-      {"asec", [](double x, double) { return m::script_asec(x); }},
-      {"acsc", [](double x, double) { return m::script_acsc(x); }},
-      {"sech", [](double x, double) { return m::script_sech(x); }},
-      {"csch", [](double x, double) { return m::script_csch(x); }},
-      {"asech", [](double x, double) { return m::script_asech(x); }},
-      {"acsch", [](double x, double) { return m::script_acsch(x); }},
+      {"cot", [](double x, double) { return cot(x); }},
+      {"acot", [](double x, double) { return acot(x); }},
+      {"coth", [](double x, double) { return coth(x); }},
+      {"acoth", [](double x, double) { return acoth(x); }},
+      {"secant", [](double x, double) { return secant(x); }},
+      {"csc", [](double x, double) { return csc(x); }},
+      {"asec", [](double x, double) { return asec(x); }},
+      {"acsc", [](double x, double) { return acsc(x); }},
+      {"sech", [](double x, double) { return sech(x); }},
+      {"csch", [](double x, double) { return csch(x); }},
+      {"asech", [](double x, double) { return asech(x); }},
+      {"acsch", [](double x, double) { return acsch(x); }},
       {"hypot", m::script_hypot},
-      {"angle", m::script_angle},
-      {"J0", [](double x, double) { return m::script_bessel_j0(x); }},
-      {"J1", [](double x, double) { return m::script_bessel_j1(x); }},
-      {"Jn", m::script_bessel_jn},
-      {"Y0", [](double x, double) { return m::script_bessel_y0(x); }},
-      {"Y1", [](double x, double) { return m::script_bessel_y1(x); }},
-      {"Yn", m::script_bessel_yn},
+      {"angle", angle},
+      {"J0", [](double x, double) { return J0(x); }},
+      {"J1", [](double x, double) { return J1(x); }},
+      {"Jn", Jn},
+      {"Y0", [](double x, double) { return Y0(x); }},
+      {"Y1", [](double x, double) { return Y1(x); }},
+      {"Yn", Yn},
   };
   return table;
 }
@@ -114,14 +116,20 @@ TEST(MathElementary, DomainRulesAndWhichOnesSetTheCode) {
   m::clear_error_code();
 }
 
+// The setter returns the previous setting; the getter reads it (off at load).
 TEST(MathElementary, LogarithmPassThroughSwitch) {
-  m::set_ln_non_positive_passes_through(true);
+  EXPECT_EQ(KILNUTIL_GetLnNonPositivePassThrough(), 0);
+  EXPECT_EQ(KILNUTIL_SetLnNonPositivePassThrough(5), 0);
+  EXPECT_EQ(KILNUTIL_GetLnNonPositivePassThrough(), 1);
   m::clear_error_code();
-  EXPECT_EQ(m::script_ln(0), -kInf);
-  EXPECT_TRUE(std::isnan(m::script_ln(-1)));
-  EXPECT_EQ(m::error_code(), 0u);
+  EXPECT_EQ(ln(0), -kInf);
+  EXPECT_TRUE(std::isnan(ln(-1)));
+  EXPECT_EQ(get_error_code(), 0u);
   EXPECT_EQ(m::script_log10(0), kMissing);  // the switch is ln's alone
-  m::set_ln_non_positive_passes_through(false);
+  EXPECT_EQ(KILNUTIL_SetLnNonPositivePassThrough(0), 1);
+  EXPECT_EQ(KILNUTIL_GetLnNonPositivePassThrough(), 0);
+  EXPECT_EQ(ln(-1), kMissing);
+  EXPECT_EQ(get_error_code(), 1u);
   m::clear_error_code();
 }
 
@@ -131,7 +139,7 @@ TEST(MathElementary, UnsignedRounding) {
     unsigned expected;
   } cases[] = {{4294967294.6, 4294967295u}, {-1.6, 4294967294u}, {2.5, 3u},
                {4294967293.4, 4294967293u}, {1e20, 4294967295u}, {-3e9, 2147483648u}};
-  for (const auto& c : cases) EXPECT_EQ(m::script_nuint(c.x), c.expected) << c.x;
+  for (const auto& c : cases) EXPECT_EQ(nUINT(c.x), c.expected) << c.x;
 }
 
 }  // namespace

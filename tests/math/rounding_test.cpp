@@ -5,15 +5,13 @@
 #include <cstdint>
 #include <limits>
 
+#include <kilnutil/math.h>
+
 #include "frame/missing_value.h"
 #include "math/error_code.h"
-#include "math/nint.h"
 #include "math/rounding.h"
 
 namespace {
-
-using kiln::math::round_decimals_new;
-using kiln::math::round_decimals_old;
 
 struct RoundCase {
   double x;
@@ -22,7 +20,9 @@ struct RoundCase {
   double old_result;
 };
 
-TEST(MathRounding, BothAlgorithms) {
+// KILNUTIL_mround under each setting of the switch IsRoundNewAlgorithm points
+// to (on by default); more than 308 places keep x under both.
+TEST(MathRounding, BothAlgorithmsThroughTheSwitch) {
   const RoundCase cases[] = {
       {2.5, 0, 3.0, 3.0},
       {-2.5, 0, -3.0, -3.0},
@@ -34,11 +34,17 @@ TEST(MathRounding, BothAlgorithms) {
       {7.0, 3, 7.0, 7.0},
       {-0.0049, 2, -0.0, -0.0},
       {1e300, 5, 1e300, 1e300},
+      {0.123456789, 309, 0.123456789, 0.123456789},
   };
+  unsigned char* new_algorithm = IsRoundNewAlgorithm();
+  ASSERT_EQ(*new_algorithm, 1);
   for (const RoundCase& c : cases) {
-    EXPECT_DOUBLE_EQ(round_decimals_new(c.x, c.n), c.new_result) << c.x << " " << c.n;
-    EXPECT_DOUBLE_EQ(round_decimals_old(c.x, c.n), c.old_result) << c.x << " " << c.n;
+    *new_algorithm = 1;
+    EXPECT_DOUBLE_EQ(KILNUTIL_mround(c.x, c.n), c.new_result) << c.x << " " << c.n;
+    *new_algorithm = 0;
+    EXPECT_DOUBLE_EQ(KILNUTIL_mround(c.x, c.n), c.old_result) << c.x << " " << c.n;
   }
+  *new_algorithm = 1;
 }
 
 // The tabled powers of ten must be the runtime's, or round(x, n) would depend
@@ -46,16 +52,6 @@ TEST(MathRounding, BothAlgorithms) {
 TEST(MathRounding, TabledPowersAgreeWithTheRuntime) {
   for (int n = -24; n <= 24; ++n) EXPECT_EQ(kiln::math::power_of_ten(n), std::pow(10.0, n)) << n;
   EXPECT_EQ(kiln::math::power_of_ten(0.5), std::pow(10.0, 0.5));
-}
-
-TEST(MathRounding, SwitchSelectsAlgorithmAndLargePlacesKeepX) {
-  unsigned char* flag = kiln::math::round_new_algorithm_flag();
-  ASSERT_EQ(*flag, 1);
-  EXPECT_EQ(kiln::math::round_decimals(1234.5678, -2), 1200.0);
-  *flag = 0;
-  EXPECT_EQ(kiln::math::round_decimals(1234.5678, -2), 1234.0);
-  *flag = 1;
-  EXPECT_EQ(kiln::math::round_decimals(0.123456789, 309), 0.123456789);
 }
 
 struct PrecCase {
@@ -71,14 +67,16 @@ TEST(MathRounding, SignificantDigits) {
       {1e-310, 2, 1e-310},        {5e300, 9, 5e300},          {-1.23456789e-300, 3, -1.23e-300},
   };
   for (const PrecCase& c : cases) {
-    EXPECT_NEAR(kiln::math::round_significant(c.x, c.n), c.expected, std::abs(c.expected) * 4e-16)
+    EXPECT_NEAR(prec(c.x, c.n), c.expected, std::abs(c.expected) * 4e-16)
         << c.x << " " << c.n;
   }
-  EXPECT_TRUE(std::isnan(kiln::math::round_significant(std::numeric_limits<double>::infinity(), 3)));
+  EXPECT_TRUE(std::isnan(prec(std::numeric_limits<double>::infinity(), 3)));
   kiln::math::clear_error_code();
-  EXPECT_EQ(kiln::math::round_significant(1.5, 10), kiln::frame::kMissingValue);
-  EXPECT_EQ(kiln::math::error_code(), KILNUTIL_MATH_ERR_DOMAIN);
+  EXPECT_EQ(prec(1.5, 10), kiln::frame::kMissingValue);  // 10^10 is beyond the 32-bit range
+  EXPECT_EQ(get_error_code(), KILNUTIL_MATH_ERR_DOMAIN);
   kiln::math::clear_error_code();
+  EXPECT_EQ(prec(1.5, 9), 1.5);
+  EXPECT_EQ(get_error_code(), KILNUTIL_MATH_ERR_NONE);
 }
 
 TEST(MathRounding, CeilFloorRefuseMissingAndInfinite) {
@@ -111,24 +109,26 @@ TEST(MathRounding, IntegerFamilyWithTheirClamps) {
       {-2147483647.9, -2147483647 - 1, -2147483647 - 1, -2147483600, -2147483600, -2147483600, -2147483600},
   };
   for (const IntCase& c : cases) {
-    EXPECT_EQ(kiln::math::nint(c.x), c.nint) << c.x;
-    EXPECT_EQ(kiln::math::nint2(c.x), c.nint2) << c.x;
-    EXPECT_EQ(kiln::math::tint(c.x), c.tint) << c.x;
-    EXPECT_EQ(kiln::math::nnint(c.x), c.nnint) << c.x;
-    EXPECT_EQ(kiln::math::last_nint(c.x), c.last_nint) << c.x;
-    EXPECT_EQ(kiln::math::lnint(c.x), c.lnint) << c.x;
+    EXPECT_EQ(nint(c.x), c.nint) << c.x;
+    EXPECT_EQ(KILNUTIL_nint(c.x), c.nint) << c.x;
+    EXPECT_EQ(nint2(c.x), c.nint2) << c.x;
+    EXPECT_EQ(KILNUTIL_tint(c.x), c.tint) << c.x;
+    EXPECT_EQ(KILNUTIL_nnint(c.x), c.nnint) << c.x;
+    EXPECT_EQ(KILNUTIL_last_nint(c.x), c.last_nint) << c.x;
+    EXPECT_EQ(KILNUTIL_lnint(c.x), c.lnint) << c.x;
   }
 }
 
 TEST(MathRounding, WideAndNonFiniteConversionsAreDefined) {
   const double nan = std::numeric_limits<double>::quiet_NaN();
   const int lowest = std::numeric_limits<int>::min();
-  EXPECT_EQ(kiln::math::nint64(-5e12 - 0.5), -5000000000001LL);
-  EXPECT_EQ(kiln::math::nint64(1e19), std::numeric_limits<std::int64_t>::min());
-  EXPECT_EQ(kiln::math::nint64(-1e19), std::numeric_limits<std::int64_t>::min());
-  EXPECT_EQ(kiln::math::nint(nan), lowest);
-  EXPECT_EQ(kiln::math::last_nint(nan), std::numeric_limits<int>::max());
-  EXPECT_EQ(kiln::math::tint(nan), lowest);
+  EXPECT_EQ(KILNUTIL_nint64(-5e12 - 0.5), -5000000000001LL);
+  EXPECT_EQ(KILNUTIL_nint64(3e9), 3000000000LL);  // no clamp at the 32-bit range
+  EXPECT_EQ(KILNUTIL_nint64(1e19), std::numeric_limits<std::int64_t>::min());
+  EXPECT_EQ(KILNUTIL_nint64(-1e19), std::numeric_limits<std::int64_t>::min());
+  EXPECT_EQ(KILNUTIL_nint(nan), lowest);
+  EXPECT_EQ(KILNUTIL_last_nint(nan), std::numeric_limits<int>::max());
+  EXPECT_EQ(KILNUTIL_tint(nan), lowest);
 }
 
 }  // namespace

@@ -185,15 +185,25 @@ TEST(MathSpecialNormal, ProbabilitiesAndTheirInverse) {
     EXPECT_TRUE(close_to(KILNUTIL_cum_gauss(r.x), 50 * r.value, 1e-9)) << "x=" << r.x;
     EXPECT_TRUE(close_to(prob(r.x), r.value - 1, 1e-10, 1.0)) << "x=" << r.x;
     EXPECT_EQ(cum_gauss_export(r.x), prob(r.x));
+    double written = 0;
+    EXPECT_EQ(norm_prob_export_ptr(r.x, &written), 0);
+    EXPECT_EQ(written, prob(r.x));
   }
   for (const double p : {-0.9, -0.2, 0.0, 0.5, 0.95}) {
     EXPECT_TRUE(close_to(prob(invprob(p)), p, 1e-8, 1e-8)) << "p=" << p;
     double out = 0;
     EXPECT_EQ(inv_prob_export_ptr(p, &out), 0);
     EXPECT_EQ(out, invncp2((p + 1) / 2));
+    EXPECT_EQ(inv_prob_export(p), out);
   }
+  EXPECT_EQ(inv_prob_export(1), KILNUTIL_NANUM);  // invncp2(1): outside the open interval
+  EXPECT_EQ(get_error_code(), KILNUTIL_MATH_ERR_DOMAIN);
+  EXPECT_EQ(norm_prob_export_ptr(1, nullptr), 0);
   EXPECT_EQ(prob(KILNUTIL_NANUM), KILNUTIL_NANUM);
   EXPECT_NE(cum_gauss_export(KILNUTIL_NANUM), KILNUTIL_NANUM);  // no missing-value test
+  double written = KILNUTIL_NANUM;
+  norm_prob_export_ptr(KILNUTIL_NANUM, &written);
+  EXPECT_EQ(written, cum_gauss_export(KILNUTIL_NANUM));
   EXPECT_EQ(KILNUTIL_cum_gauss(KILNUTIL_NANUM), KILNUTIL_NANUM);
 }
 
