@@ -1,10 +1,9 @@
 // kilnutil: command-line access to the library's subsystems.
 #include "commands.h"
 
+#include <clocale>
 #include <cstdio>
-#include <cstring>
 #include <iostream>
-#include <iterator>
 
 namespace kilnutil_cli {
 
@@ -29,21 +28,6 @@ constexpr Command kCommands[] = {
 
 std::span<const Command> commands() { return kCommands; }
 
-int usage_error(std::string_view message) {
-  std::cerr << "kilnutil: " << message << '\n';
-  return kUsage;
-}
-
-int input_error(std::string_view message) {
-  std::cerr << "kilnutil: " << message << '\n';
-  return kInputFailed;
-}
-
-std::string text_argument(const char* arg) {
-  if (std::strcmp(arg, "-") != 0) return arg;
-  return std::string(std::istreambuf_iterator<char>(std::cin), std::istreambuf_iterator<char>());
-}
-
 void print_command_help(const Command& command) {
   std::printf("usage: kilnutil %s%s%s\n\n%s\n", command.name, *command.usage ? " " : "", command.usage, command.summary);
   if (*command.help) std::printf("\n%s\n", command.help);
@@ -58,8 +42,7 @@ static const Command* find_command(std::string_view name) {
 
 static bool asks_for_help(Args args) {
   for (const char* arg : args) {
-    const std::string_view word = arg;
-    if (word == "--help" || word == "-h") return true;
+    if (is_help_option(arg)) return true;
   }
   return false;
 }
@@ -83,6 +66,10 @@ int run_help(Args args) {
 
 int main(int argc, char** argv) {
   using namespace kilnutil_cli;
+  // Code-page text follows the user's locale (its codeset names the ANSI code page).
+  // Numbers stay in the C form ("." as decimal point) in every output.
+  std::setlocale(LC_ALL, "");
+  std::setlocale(LC_NUMERIC, "C");
   if (argc < 2) return usage_error("no command given (see 'kilnutil help')");
   const std::string_view name = argv[1];
   const Command* command = find_command(name);

@@ -2,36 +2,41 @@
 // date values).
 #include "preview_cell.h"
 
+#include "csv_records.h"
+
 #include <kilnutil/datetime.h>
 #include <kilnutil/frame.h>
 #include <kilnutil/numeric.h>
 
 #include <cctype>
+#include <charconv>
 
 namespace kilnutil_cli {
 
 namespace {
 
 // Reads exactly `digits` digits at text[at...]; -1 when they are not there.
-int fixed_digits(const std::string& text, std::size_t at, int digits) {
+int fixed_digits(std::string_view text, std::size_t at, int digits) {
   int value = 0;
-  for (int i = 0; i < digits; ++i) {
-    if (at + i >= text.size() || !std::isdigit(static_cast<unsigned char>(text[at + i]))) return -1;
-    value = value * 10 + (text[at + i] - '0');
+  for (std::size_t i = at; i < at + static_cast<std::size_t>(digits); ++i) {
+    if (i >= text.size() || !std::isdigit(static_cast<unsigned char>(text[i]))) return -1;
+    value = value * 10 + (text[i] - '0');
   }
   return value;
 }
 
 // "YYYY-MM-DD", optionally followed by " " or "T" and "HH:MM" or "HH:MM:SS".
-std::optional<SYSTEMTIME> iso_date(const std::string& text) {
+std::optional<SYSTEMTIME> iso_date(std::string_view text) {
+  if (text.size() < 10 || text[4] != '-' || text[7] != '-') return std::nullopt;
   SYSTEMTIME time{};
   const int year = fixed_digits(text, 0, 4), month = fixed_digits(text, 5, 2), day = fixed_digits(text, 8, 2);
-  if (year < 0 || month < 1 || day < 1 || text[4] != '-' || text[7] != '-') return std::nullopt;
+  if (year < 0 || month < 1 || day < 1) return std::nullopt;
   if (month > 12 || day > KILNUTIL_GetNumDaysInMonth(static_cast<unsigned short>(month), year)) return std::nullopt;
   time.wYear = static_cast<unsigned short>(year);
   time.wMonth = static_cast<unsigned short>(month);
   time.wDay = static_cast<unsigned short>(day);
   if (text.size() == 10) return time;
+  if (text.size() < 16) return std::nullopt;
   const int hour = fixed_digits(text, 11, 2), minute = fixed_digits(text, 14, 2);
   if ((text[10] != ' ' && text[10] != 'T') || hour < 0 || hour > 23 || text[13] != ':' || minute < 0 || minute > 59) {
     return std::nullopt;
@@ -51,10 +56,11 @@ std::optional<SYSTEMTIME> iso_date(const std::string& text) {
 
 }  // namespace
 
-CellValue read_cell(std::string field) {
-  CellValue cell;
-  if (field.size() >= 2 && field.front() == '"' && field.back() == '"') field = field.substr(1, field.size() - 2);
-  cell.text = field;
+void read_cell(std::string_view field, CellValue& cell) {
+  cell.text = field_text(field);
+  cell.number.reset();
+  cell.date.reset();
+  if (cell.text.empty()) return;
   std::string scratch = cell.text;  // the parser cuts and restores separators in place
   const double number = KILNUTIL_str2real(scratch.data());
   if (!is_missing_value(number)) cell.number = number;
@@ -62,7 +68,17 @@ CellValue read_cell(std::string field) {
     double value = 0;
     if (SystemTimeToJulianDate(&value, &*time, nullptr) == 1) cell.date = value;
   }
-  return cell;
+}
+
+void set_decimal_mark(char mark) {
+  char text[2] = {mark, '\0'};
+  KILNUTIL_cvtstr2real_ex(text, nullptr, 0, nullptr);
+}
+
+std::string number_text(double value) {
+  char buffer[64];
+  const auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
+  return std::string(buffer, result.ptr);
 }
 
 }  // namespace kilnutil_cli

@@ -1,0 +1,49 @@
+// Records and fields of delimited text: a record ends at a line feed, a
+// carriage return or both, outside double quotes (so quoted fields may span
+// lines); fields are cut at the separator outside double quotes.
+#pragma once
+
+#include "text_decoder.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kilnutil_cli {
+
+// Pulls UTF-8 text from a decoder and hands out one record at a time.
+class RecordReader {
+public:
+  explicit RecordReader(TextDecoder& decoder) : decoder_(decoder) {}
+  // The next record without its line end (valid until the next call); false
+  // at the end or when the decoder failed (see error()).
+  bool next(std::string_view& record);
+  // Records handed out so far: the 1-based number of the last one.
+  std::uint64_t count() const { return count_; }
+  const std::string& error() const { return error_; }
+
+private:
+  bool pull();
+
+  TextDecoder& decoder_;
+  std::string text_;
+  std::size_t at_ = 0;
+  std::uint64_t count_ = 0;
+  bool ended_ = false;
+  std::string error_;
+};
+
+// Blank-separated text (separator ' ') takes runs of blanks and tabs as one
+// separator and ignores leading ones.
+inline constexpr char kBlankSeparator = ' ';
+
+// Cuts a record into fields (views into it, quotes kept); no separator (0)
+// gives one field.
+void split_fields(std::string_view record, char separator, std::vector<std::string_view>& fields);
+
+// A field's text: surrounding blanks trimmed, enclosing double quotes
+// removed and doubled quotes inside them made single.
+std::string field_text(std::string_view field);
+
+}  // namespace kilnutil_cli
