@@ -135,6 +135,7 @@ bool Base64Decoder::add(std::string_view text, std::string& out) {
       offset_ += i;
       decode_clean(out);
       if (!error_.empty()) return false;
+      take_partial_group(out);
       char byte[8];
       std::snprintf(byte, sizeof byte, "0x%02X", static_cast<unsigned char>(text[i]));
       error_ = "invalid input: character " + std::string(byte) + " at offset " + std::to_string(offset_) +
@@ -150,10 +151,16 @@ bool Base64Decoder::add(std::string_view text, std::string& out) {
 bool Base64Decoder::finish(std::string& out) {
   if (!error_.empty()) return false;
   if (clean_.empty()) return true;
-  clean_.append(4 - clean_.size(), '\x01');  // not the alphabet: only the whole bytes are kept
-  take_group(out);
+  take_partial_group(out);
   error_ = "invalid input: the text ends inside a group of four characters";
   return false;
+}
+
+void Base64Decoder::take_partial_group(std::string& out) {
+  if (clean_.empty()) return;
+  clean_.append(4 - clean_.size(), '\x01');  // not the alphabet: only the whole bytes are kept
+  take_group(out);
+  clean_.clear();
 }
 
 }  // namespace kilnutil_cli

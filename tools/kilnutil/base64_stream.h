@@ -40,6 +40,8 @@ public:
 
 private:
   bool take_group(std::string& out);
+  // The whole bytes of an unfinished group (the decoders of the common tools write them before failing).
+  void take_partial_group(std::string& out);
   void decode_clean(std::string& out);
 
   bool ignore_garbage_;

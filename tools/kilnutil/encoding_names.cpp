@@ -24,8 +24,8 @@ constexpr NamedEncoding kNames[] = {
     {"windows31j", {TextForm::kCodePage, 932}},  {"gbk", {TextForm::kCodePage, 936}},
     {"gb2312", {TextForm::kCodePage, 936}},      {"big5", {TextForm::kCodePage, 950}},
     {"euckr", {TextForm::kCodePage, 949}},       {"uhc", {TextForm::kCodePage, 949}},
-    {"ksc56011987", {TextForm::kCodePage, 949}}, {"latin1", {TextForm::kCodePage, 1252}},
-    {"ascii", {TextForm::kCodePage, 1252}},      {"usascii", {TextForm::kCodePage, 1252}},
+    {"ksc56011987", {TextForm::kCodePage, 949}}, {"latin1", {TextForm::kCodePage, 28591}},
+    {"koi8r", {TextForm::kCodePage, 20866}},     {"eucjp", {TextForm::kCodePage, 51932}},
 };
 
 struct CodePageName {
@@ -34,7 +34,7 @@ struct CodePageName {
 };
 
 constexpr CodePageName kCodePageNames[] = {
-    {932, "Shift_JIS"}, {936, "GBK"}, {949, "EUC-KR"}, {950, "Big5"}, {65001, "UTF-8"},
+    {932, "Shift_JIS"}, {936, "GBK"}, {949, "EUC-KR"}, {950, "Big5"}, {20866, "KOI8-R"}, {51932, "EUC-JP"},
 };
 
 std::string folded(std::string_view name) {
@@ -82,6 +82,9 @@ std::optional<TextEncoding> encoding_from_name(std::string_view name) {
     if (found) break;
     if (const std::optional<unsigned> number = number_after(key, prefix)) found = encoding_of_number(*number);
   }
+  if (const std::optional<unsigned> part = number_after(key, "iso8859"); !found && part && *part < 100) {
+    found = TextEncoding{TextForm::kCodePage, 28590 + *part};
+  }
   // Code pages 0 to 3 are the library's aliases of the system pages, not names a user means.
   if (!found || (found->form == TextForm::kCodePage && (found->code_page < 4 || !library_converts(found->code_page)))) {
     return std::nullopt;
@@ -101,6 +104,9 @@ std::string encoding_label(const TextEncoding& encoding) {
   const std::string number = std::to_string(encoding.code_page);
   for (const CodePageName& named : kCodePageNames) {
     if (named.code_page == encoding.code_page) return std::string(named.name) + " (code page " + number + ")";
+  }
+  if (encoding.code_page > 28590 && encoding.code_page < 28690) {
+    return "ISO-8859-" + std::to_string(encoding.code_page - 28590) + " (code page " + number + ")";
   }
   return "Windows-" + number + " (code page " + number + ")";
 }

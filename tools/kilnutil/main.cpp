@@ -1,5 +1,6 @@
 // kilnutil: command-line access to the library's subsystems.
 #include "commands.h"
+#include "help_texts.h"
 
 #include <clocale>
 #include <cstdio>
@@ -10,18 +11,24 @@ namespace kilnutil_cli {
 namespace {
 
 constexpr Command kCommands[] = {
-    {"help", "", "list the commands", run_help},
-    {"version", "", "print the library version", run_version},
-    {"chars", "TEXT|-", "list each character of UTF-8 text: byte offset, code point, UTF-16 units", run_chars},
-    {"preview", "FILE [--rows REQUEST] [--cols REQUEST] [--limit N] [--json]",
-     "import a delimited text file as the host does and show the wanted cells", run_preview},
-    {"split", "[--statements|--terms|--tokens] [TEXT|-]", "cut script text into statements, terms or tokens", run_split},
-    {"number", "[--lenient] TEXT...", "parse numbers: code, value to 17 digits or the missing value", run_number},
+    {"help", "[COMMAND|requests]", "list the commands, or explain one", run_help, kHelpHelp},
+    {"version", "", "print the library version", run_version, kVersionHelp},
+    {"chars", "TEXT|-", "list each character of UTF-8 text: byte offset, code point, UTF-16 units", run_chars,
+     kCharsHelp},
+    {"preview", "FILE|- [--rows REQUEST] [--cols REQUEST] [--limit N] [--json|--ndjson|--csv] [OPTIONS]",
+     "import a delimited text file as the host does and show the wanted cells", run_preview, kPreviewHelp},
+    {"split", "[--statements|--terms|--tokens] [TEXT|-]", "cut script text into statements, terms or tokens", run_split,
+     kSplitHelp},
+    {"number", "[--lenient] TEXT...", "parse numbers: code, value to 17 digits or the missing value", run_number,
+     kNumberHelp},
     {"date", "[--system NAME] DATE|--to-date V|...",
-     "date values in any date system, --convert V FROM TO, --step N d|m|q|y DATE", run_date},
-    {"detect", "FILE...", "encoding of each file: code, name and mark size", run_detect},
-    {"to-utf8", "FILE [-o OUT] [-c CODEPAGE]", "a text file's contents as UTF-8", run_to_utf8},
-    {"base64", "[-d] [FILE|-]", "Base64 of a file, or with -d the bytes of Base64 text", run_base64},
+     "date values in any date system, --convert V FROM TO, --step N d|m|q|y DATE", run_date, kDateHelp},
+    {"detect", "[--json] FILE...", "encoding of each file: the library's code, and what the whole file reads as",
+     run_detect, kDetectHelp},
+    {"to-utf8", "[FILE|-] [-o OUT] [-c CODEPAGE] [--replace] [--force]", "a text file's contents as UTF-8",
+     run_to_utf8, kToUtf8Help},
+    {"base64", "[-d] [-i] [-w COLS] [FILE|-]", "Base64 of a file, or with -d the bytes of Base64 text", run_base64,
+     kBase64Help},
 };
 
 }  // namespace
@@ -48,6 +55,10 @@ static bool asks_for_help(Args args) {
 }
 
 int run_help(Args args) {
+  if (!args.empty() && std::string_view(args[0]) == "requests") {
+    std::printf("%s\n", kRequestsGuide);
+    return kOk;
+  }
   if (!args.empty()) {
     const Command* command = find_command(args[0]);
     if (command == nullptr) return usage_error("unknown command '" + std::string(args[0]) + "' (see 'kilnutil help')");
@@ -55,10 +66,9 @@ int run_help(Args args) {
     return kOk;
   }
   std::cout << "usage: kilnutil COMMAND [ARGUMENTS]\n\ncommands:\n";
-  for (const Command& command : commands()) {
-    std::string synopsis = std::string(command.name) + (*command.usage ? " " : "") + command.usage;
-    std::printf("  %-34s %s\n", synopsis.c_str(), command.summary);
-  }
+  for (const Command& command : commands()) std::printf("  %-10s %s\n", command.name, command.summary);
+  std::printf("\n'kilnutil help COMMAND' (or COMMAND --help) shows a command's options and examples;\n"
+              "'kilnutil help requests' the row and column requests of preview.\n");
   return kOk;
 }
 

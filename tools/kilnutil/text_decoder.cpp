@@ -96,6 +96,21 @@ std::size_t first_undefined_byte(std::string_view text, unsigned code_page) {
   return text.size();
 }
 
+// Whether text that is not valid UTF-8 holds more well-formed multibyte
+// sequences than ill-formed bytes: code-page text rarely forms them.
+bool mostly_utf8(std::string_view text) {
+  std::size_t multibyte = 0, invalid = 0;
+  for (std::size_t at = 0; at < text.size();) {
+    at += ascii_prefix(text.substr(at));
+    if (at == text.size()) break;
+    const Sequence sequence = sequence_at(text, at);
+    if (sequence.status == SequenceStatus::kTruncated) break;
+    (sequence.status == SequenceStatus::kValid ? multibyte : invalid) += 1;
+    at += sequence.length;
+  }
+  return multibyte > invalid;
+}
+
 }  // namespace
 
 bool TextDecoder::fill() {
@@ -148,7 +163,10 @@ void TextDecoder::choose_mode() {
   const unsigned family = detected_code_ & 0xFFu;
   mode_ = family < 6 ? kModes[family] : Mode::kCodePage;
   mark_size_ = static_cast<std::size_t>(KILNUTIL_GetBOMSize(detected_code_));
-  if (mode_ == Mode::kCodePage) {
+  if (mode_ == Mode::kCodePage && mostly_utf8(pending_)) {
+    mode_ = Mode::kUtf8;  // damaged UTF-8: its invalid bytes are reported, not misread
+    note_ = "mostly valid UTF-8";
+  } else if (mode_ == Mode::kCodePage) {
     code_page_ = locale_code_page();
     if (code_page_ == 65001) {
       code_page_ = 1252;
@@ -301,6 +319,7 @@ bool TextDecoder::decode_code_page(std::string& out) {
     const std::size_t bad = first_undefined_byte(std::string_view(pending_).substr(0, end), code_page_);
     if (bad < end) {
       out.resize(old);
+      if (std::memchr(pending_.data(), 0, bad) == nullptr) code_page_to_utf8(pending_.data(), bad, code_page_, out);
       return fail_invalid(bad, "byte " + hex_byte(static_cast<unsigned char>(pending_[bad])) + " is not " +
                                    encoding_label({TextForm::kCodePage, code_page_}) + " text");
     }
@@ -335,7 +354,9 @@ bool TextDecoder::decode_wide(std::string& out) {
     }
     if (!valid && !options_.replace) {
       consume(at);
-      return fail_invalid(0, "code unit " + std::to_string(static_cast<unsigned long>(c)) + " is not a character");
+      char unit_text[16];
+      std::snprintf(unit_text, sizeof unit_text, "0x%04lX", static_cast<unsigned long>(c));
+      return fail_invalid(0, "code unit " + std::string(unit_text) + " is not a character");
     }
     if (c == 0 && !options_.force) {
       consume(at);
