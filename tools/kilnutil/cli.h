@@ -42,6 +42,9 @@ int file_error(std::string_view file, std::string_view reason);
 // The system's text for an error number, such as "Permission denied".
 std::string system_reason(int error_number);
 
+// The name that stands for standard input (or output).
+inline const std::string kStandardStream = "-";
+
 // How a file argument is named in messages.
 std::string display_name(std::string_view file);
 

@@ -20,7 +20,7 @@ struct Options {
   bool decode = false;
   bool ignore_garbage = false;
   std::size_t wrap = 76;
-  std::string path;
+  std::string path;  // empty: standard input
 };
 
 bool parse_wrap(std::string_view text, std::size_t& wrap) {
@@ -53,7 +53,6 @@ int parse(Args args, Options& options) {
       return usage_error("base64: invalid wrap size '" + std::string(wrap_text) + "' (a column count, 0 for none)");
     }
   }
-  if (options.path.empty()) options.path = "-";
   return kOk;
 }
 
@@ -62,10 +61,11 @@ int parse(Args args, Options& options) {
 int run_base64(Args args) {
   Options options;
   if (const int rc = parse(args, options); rc != kOk) return rc;
+  const std::string& path = options.path.empty() ? kStandardStream : options.path;
   InputFile input;
-  if (!input.open(options.path)) return file_error(options.path, input.error());
+  if (!input.open(path)) return file_error(path, input.error());
   OutputFile output;
-  output.open("-");
+  output.open(kStandardStream);
 
   Progress progress(options.decode ? "base64 -d" : "base64", input.size());
   Base64Encoder encoder(options.wrap);
@@ -88,8 +88,8 @@ int run_base64(Args args) {
     if (got < kPiece) break;
   }
   if (!output.finish()) return file_error("standard output", output.error());
-  if (input.failed()) return file_error(options.path, input.error());
-  if (!decoded) return file_error(options.path, decoder.error());
+  if (input.failed()) return file_error(path, input.error());
+  if (!decoded) return file_error(path, decoder.error());
   return kOk;
 }
 

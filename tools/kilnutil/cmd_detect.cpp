@@ -94,7 +94,8 @@ int run_detect(Args args) {
   for (const std::string& path : paths) {
     const FileAnswer answer = detect_file(path, options);
     if (!answer.error.empty()) status = file_error(path, answer.error);
-    if (json) listing += (listing.size() > 1 ? "," : "") + json_object(path, answer);
+    if (json && listing.size() > 1) listing += ',';
+    if (json) listing += json_object(path, answer);
     else if (answer.error.empty()) print_text(path, answer);
   }
   if (json) std::printf("%s]\n", listing.c_str());

@@ -108,6 +108,7 @@ bool PreviewRun::read_head() {
 
 void PreviewRun::start_table() {
   layout_ = decide_layout(head_, options_);
+  reader_.set_separator(layout_.separator.separator == 0 ? '\n' : layout_.separator.separator);
   set_decimal_mark(layout_.decimal.mark);
   summary_.separator = separator_name(layout_.separator.separator);
   summary_.separator_reason = layout_.separator.reason;

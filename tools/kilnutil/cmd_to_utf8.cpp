@@ -38,7 +38,7 @@ int parse(Args args, Options& options) {
       return usage_error("to-utf8 takes [FILE|-] [-o OUT] [-c CODEPAGE] [--force] [--replace] (got '" + arg + "')");
     }
   }
-  if (options.input.empty()) options.input = "-";
+  if (options.input.empty()) options.input = kStandardStream;
   return kOk;
 }
 

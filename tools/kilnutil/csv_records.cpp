@@ -12,6 +12,14 @@ constexpr std::size_t kMaxRecord = 256u << 20;
 
 bool is_blank(char c) { return c == ' ' || c == '\t'; }
 
+// A double quote opens a quoted field only where a field starts: at the start
+// of a record or after the separator (any of the usual ones while it is not
+// known yet). Elsewhere (as in 5" or O"Neil) it is an ordinary character.
+bool may_precede_field(char c, char separator) {
+  if (separator == 0) return c == ',' || c == ';' || c == '\t' || c == '|';
+  return c == separator || (separator == kBlankSeparator && is_blank(c));
+}
+
 }  // namespace
 
 bool RecordReader::pull() {
@@ -37,10 +45,21 @@ bool RecordReader::next(std::string_view& record) {
     std::size_t i = scan;
     for (; i < size; ++i) {
       const char c = data[i];
-      if (c == '"') quoted = !quoted;
-      else if ((c == '\n' || c == '\r') && !quoted) break;
+      if (c == '"') {
+        if (!quoted) {
+          quoted = i == at_ || may_precede_field(data[i - 1], separator_);
+        } else if (i + 1 == size && !ended_) {
+          break;  // a doubled quote may continue in the next piece
+        } else if (i + 1 < size && data[i + 1] == '"') {
+          ++i;
+        } else {
+          quoted = false;
+        }
+      } else if ((c == '\n' || c == '\r') && !quoted) {
+        break;
+      }
     }
-    if (i < size && !(data[i] == '\r' && i + 1 == size && !ended_)) {
+    if (i < size && data[i] != '"' && !(data[i] == '\r' && i + 1 == size && !ended_)) {
       const std::size_t end = i + (data[i] == '\r' && i + 1 < size && data[i + 1] == '\n' ? 2 : 1);
       record = std::string_view(data + at_, i - at_);
       at_ = end;
@@ -82,7 +101,9 @@ void split_fields(std::string_view record, char separator, std::vector<std::stri
   for (; at < record.size(); ++at) {
     const char c = record[at];
     if (c == '"') {
-      quoted = !quoted;
+      if (!quoted) quoted = at == start || (blanks && is_blank(record[at - 1]));
+      else if (at + 1 < record.size() && record[at + 1] == '"') ++at;
+      else quoted = false;
     } else if (!quoted && (blanks ? is_blank(c) : c == separator)) {
       fields.push_back(record.substr(start, at - start));
       if (blanks) {

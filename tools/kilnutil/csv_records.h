@@ -12,6 +12,10 @@
 
 namespace kilnutil_cli {
 
+// Blank-separated text (separator ' ') takes runs of blanks and tabs as one
+// separator and ignores leading ones.
+inline constexpr char kBlankSeparator = ' ';
+
 // Pulls UTF-8 text from a decoder and hands out one record at a time.
 class RecordReader {
 public:
@@ -22,6 +26,9 @@ public:
   // Records handed out so far: the 1-based number of the last one.
   std::uint64_t count() const { return count_; }
   const std::string& error() const { return error_; }
+  // The separator, once known (0: not yet): only a double quote at the start
+  // of a record or after it opens a quoted field.
+  void set_separator(char separator) { separator_ = separator; }
 
 private:
   bool pull();
@@ -31,12 +38,9 @@ private:
   std::size_t at_ = 0;
   std::uint64_t count_ = 0;
   bool ended_ = false;
+  char separator_ = 0;
   std::string error_;
 };
-
-// Blank-separated text (separator ' ') takes runs of blanks and tabs as one
-// separator and ignores leading ones.
-inline constexpr char kBlankSeparator = ' ';
 
 // Cuts a record into fields (views into it, quotes kept); no separator (0)
 // gives one field.
