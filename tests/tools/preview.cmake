@@ -77,3 +77,9 @@ kilnutil_cli_test(NAME preview_bad_limit ARGS preview examples/weather_utf8_bom.
 kilnutil_cli_test(NAME preview_bad_separator ARGS preview examples/weather_utf8_bom.csv --sep ab RC 2 STDERR "--sep takes")
 kilnutil_cli_test(NAME preview_unknown_codepage ARGS preview examples/weather_utf8_bom.csv -c klingon RC 2
   STDERR "^kilnutil: unknown code page 'klingon'")
+kilnutil_cli_test(NAME preview_unclosed_quote ARGS preview ${cli}/unclosed_quote.csv
+  RC 1 STDERR "^kilnutil: tests/data/cli/unclosed_quote.csv: the double quote opened in record 3 is never closed\n$")
+kilnutil_cli_test(NAME preview_quote_inside_field ARGS preview ${cli}/inch_marks.tsv --csv
+  STDOUT "^size,note\n\"5\"\" disk\",1\n\"3\\.5\"\" disk\",2\n$")
+kilnutil_cli_test(NAME preview_table_line_ends ARGS preview ${cli}/multiline_quoted.csv --rows 2 --cols 2
+  STDOUT "^row  note\n  2  first line↵second line\n")

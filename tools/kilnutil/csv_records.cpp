@@ -76,6 +76,10 @@ bool RecordReader::next(std::string_view& record) {
     if (!pull()) {
       if (!error_.empty()) return false;
       if (at_ >= text_.size()) return false;
+      if (quoted) {
+        error_ = "the double quote opened in record " + std::to_string(count_ + 1) + " is never closed";
+        return false;
+      }
       record = std::string_view(text_.data() + at_, text_.size() - at_);
       if (!record.empty() && record.back() == '\r') record.remove_suffix(1);
       at_ = text_.size();

@@ -2,6 +2,7 @@
 #include "preview_output.h"
 
 #include "json.h"
+#include "utf8_check.h"
 
 #include <kilnutil/numeric.h>
 
@@ -41,6 +42,18 @@ std::string shown_text(const CellValue& cell, bool date_values) {
 
 void pad(std::string& out, std::size_t count) { out.append(count, ' '); }
 
+// A cell on one table line: line ends shown as "↵", tabs as blanks.
+std::string one_line(std::string text) {
+  if (text.find_first_of("\r\n\t") == std::string::npos) return text;
+  std::string out;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') continue;
+    if (text[i] == '\r' || text[i] == '\n') out += "\xE2\x86\xB5";
+    else out += text[i] == '\t' ? ' ' : text[i];
+  }
+  return out;
+}
+
 class TableWriter : public PreviewWriter {
 public:
   TableWriter(const PreviewOptions& options, std::string& out) : options_(options), out_(out) {}
@@ -48,7 +61,7 @@ public:
   void begin(const std::vector<PreviewColumn>& columns) override {
     columns_ = columns;
     header_.push_back("row");
-    for (const PreviewColumn& column : columns) header_.push_back(cut(column.name, options_.width));
+    for (const PreviewColumn& column : columns) header_.push_back(cut(one_line(column.name), options_.width));
     widths_.assign(header_.size(), 0);
     for (std::size_t i = 0; i < header_.size(); ++i) widths_[i] = code_points(header_[i]);
   }
@@ -57,7 +70,7 @@ public:
     std::vector<std::string> texts{std::to_string(row.number)};
     std::vector<bool> right{true};
     for (const CellValue& cell : row.cells) {
-      texts.push_back(cut(shown_text(cell, options_.date_values), options_.width));
+      texts.push_back(cut(one_line(shown_text(cell, options_.date_values)), options_.width));
       right.push_back(cell.number.has_value() && !cell.date);
     }
     if (!widths_fixed_) {
@@ -71,7 +84,9 @@ public:
 
   void end(const PreviewSummary& s) override {
     flush_waiting();
-    out_ += "\nfile       " + display_name(options_.path) + "\nencoding   " + s.encoding + "\nseparator  " +
+    std::string file;
+    append_replacing_invalid(display_name(options_.path), file);
+    out_ += "\nfile       " + file + "\nencoding   " + s.encoding + "\nseparator  " +
             s.separator + " (" + s.separator_reason + ")\ndecimal    \"" + s.decimal + "\" (" + s.decimal_reason +
             ")\nheader     " + (s.header_line ? "line " + std::to_string(s.header_line) : std::string("none")) +
             "\nlines      " + std::to_string(s.lines) + "\nfields     " + std::to_string(s.fields) + "\nrows       " +
