@@ -6,7 +6,8 @@
 #   preview --csv / --ndjson     beside a plain read+write copy (cat) and,
 #                                when python3-pandas is installed, pandas.read_csv
 #   the line count (preview)     beside wc -l
-# Prints MB/s, the ratio to the reference and the peak memory of each run.
+# Prints wall and CPU seconds, MB/s (of CPU time), the ratio to the reference
+# (of CPU time) and the peak memory of each run.
 # Usage: bench/cli_throughput.sh [path/to/kilnutil] [MB]   (default: release build, 200 MB)
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -39,18 +40,17 @@ text = open(f"{work}/table.csv", encoding="utf-8").read()
 open(f"{work}/table_cp1252.csv", "w", encoding="cp1252", errors="replace").write(text.replace("Ł", "L"))
 PY
 
-measure() {  # label reference_seconds command... : prints seconds and peak memory
+measure() {  # label bytes command... : wall and CPU (user+system) seconds, MB/s of CPU time, peak memory
   local label=$1 bytes=$2; shift 2
-  local start end
-  start=$(date +%s.%N)
-  /usr/bin/time -f "%M" -o "$work/mem" "$@" > /dev/null
-  end=$(date +%s.%N)
-  local seconds mbs
-  seconds=$(echo "$end - $start" | bc -l)
-  mbs=$(echo "$bytes / 1000000 / $seconds" | bc -l)
-  printf "%-34s %8.2f s %9.1f MB/s %8d KiB peak\n" "$label" "$seconds" "$mbs" "$(cat "$work/mem")"
-  echo "$seconds" > "$work/last"
+  /usr/bin/time -f "%e %U %S %M" -o "$work/time" "$@" > /dev/null
+  local wall user system peak cpu
+  read -r wall user system peak < "$work/time"
+  cpu=$(echo "$user + $system + 0.001" | bc -l)
+  printf "%-34s %7.2f s wall %7.2f s cpu %8.1f MB/s %8d KiB peak\n" "$label" "$wall" "$cpu" \
+    "$(echo "$bytes / 1000000 / $cpu" | bc -l)" "$peak"
+  echo "$cpu" > "$work/last"
 }
+# Ratios are of CPU time: on a shared machine wall time mostly measures the neighbours.
 ratio() { printf "%-34s %8.2fx\n" "  -> speed ratio (tool/ref)" "$(echo "$2 / $1" | bc -l)"; }
 
 size_of() { stat -c %s "$1"; }
