@@ -67,8 +67,12 @@ measure "kilnutil to-utf8 (detected)" "$cp" "$tool" to-utf8 "$work/table_cp1252.
 measure "cat (read+write copy)" "$csv" cat "$work/table.csv"; ref=$(cat "$work/last")
 measure "kilnutil preview --csv" "$csv" "$tool" preview "$work/table.csv" --csv; ratio "$(cat "$work/last")" "$ref"
 measure "kilnutil preview --ndjson" "$csv" "$tool" preview "$work/table.csv" --ndjson; ratio "$(cat "$work/last")" "$ref"
-if python3 -c "import pandas" 2> /dev/null; then
-  measure "pandas.read_csv" "$csv" python3 -c "import pandas, sys; pandas.read_csv(sys.argv[1])" "$work/table.csv"
+pandas_python=""
+for candidate in python3 /usr/bin/python3; do
+  if "$candidate" -c "import pandas" 2> /dev/null; then pandas_python=$candidate; break; fi
+done
+if [ -n "$pandas_python" ]; then
+  measure "pandas.read_csv" "$csv" "$pandas_python" -c "import pandas, sys; pandas.read_csv(sys.argv[1])" "$work/table.csv"
   ref=$(cat "$work/last")
   measure "kilnutil preview --csv (again)" "$csv" "$tool" preview "$work/table.csv" --csv; ratio "$(cat "$work/last")" "$ref"
 fi

@@ -120,17 +120,24 @@ void split_fields(std::string_view record, char separator, std::vector<std::stri
   fields.push_back(record.substr(start));
 }
 
-std::string field_text(std::string_view field) {
+void assign_field_text(std::string_view field, std::string& text) {
   while (!field.empty() && is_blank(field.front())) field.remove_prefix(1);
   while (!field.empty() && is_blank(field.back())) field.remove_suffix(1);
-  if (field.size() < 2 || field.front() != '"' || field.back() != '"') return std::string(field);
+  if (field.size() < 2 || field.front() != '"' || field.back() != '"') {
+    text.assign(field);
+    return;
+  }
   field = field.substr(1, field.size() - 2);
-  std::string text;
-  text.reserve(field.size());
+  text.clear();
   for (std::size_t i = 0; i < field.size(); ++i) {
     text += field[i];
     if (field[i] == '"' && i + 1 < field.size() && field[i + 1] == '"') ++i;
   }
+}
+
+std::string field_text(std::string_view field) {
+  std::string text;
+  assign_field_text(field, text);
   return text;
 }
 

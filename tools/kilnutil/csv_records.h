@@ -49,5 +49,7 @@ void split_fields(std::string_view record, char separator, std::vector<std::stri
 // A field's text: surrounding blanks trimmed, enclosing double quotes
 // removed and doubled quotes inside them made single.
 std::string field_text(std::string_view field);
+// The same into text, reusing its storage.
+void assign_field_text(std::string_view field, std::string& text);
 
 }  // namespace kilnutil_cli

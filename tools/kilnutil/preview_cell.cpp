@@ -57,12 +57,12 @@ std::optional<SYSTEMTIME> iso_date(std::string_view text) {
 }  // namespace
 
 void read_cell(std::string_view field, CellValue& cell) {
-  cell.text = field_text(field);
+  assign_field_text(field, cell.text);
   cell.number.reset();
   cell.date.reset();
   if (cell.text.empty()) return;
-  std::string scratch = cell.text;  // the parser cuts and restores separators in place
-  const double number = KILNUTIL_str2real(scratch.data());
+  cell.scratch = cell.text;  // the parser may leave its text changed
+  const double number = KILNUTIL_str2real(cell.scratch.data());
   if (!is_missing_value(number)) cell.number = number;
   if (const std::optional<SYSTEMTIME> time = iso_date(cell.text)) {
     double value = 0;

@@ -12,6 +12,7 @@ struct CellValue {
   std::string text;              // the field, enclosing double quotes removed
   std::optional<double> number;  // empty: the missing value
   std::optional<double> date;    // a date value, for ISO dates "YYYY-MM-DD[ HH:MM[:SS]]"
+  std::string scratch;           // the number parser's working copy of text
 };
 
 // Reads a field (as cut from its record) into cell, reusing its storage.
