@@ -49,6 +49,8 @@ TEST(ToolTextDecoder, DecidesOnTheWholeInput) {
   const DecodeCase cases[] = {
       {"late UTF-8", prefix + "Z\xC3\xBCrich\n", {}, prefix + "Z\xC3\xBCrich\n", "", "valid UTF-8 to the end"},
       {"late code page", prefix + "Z\xFCrich\n", {}, prefix + "Z\xC3\xBCrich\n", "", "Windows-1252"},
+      {"late damaged UTF-8", prefix + "\xC3\xA9\xC3\xA9 \xE9", {}, "", "position 70005", "mostly valid UTF-8"},
+      {"late UTF-8 cut off at the end", prefix + "\xC3", {}, prefix + "\xC3\x83", "", "Windows-1252"},
       {"late UTF-8 past a piece", ascii(kPiece + 10) + "\xE2\x82\xAC", {}, ascii(kPiece + 10) + "\xE2\x82\xAC", "",
        "UTF-8"},
       {"UTF-32LE mark", std::string("\xFF\xFE\0\0", 4) + utf32(U"a\u00FC\U0001F600", false), {},

@@ -96,25 +96,39 @@ std::size_t first_undefined_byte(std::string_view text, unsigned code_page) {
   return text.size();
 }
 
-// Whether text that is not valid UTF-8 holds more well-formed multibyte
-// sequences than ill-formed bytes: code-page text rarely forms them.
-bool mostly_utf8(std::string_view text) {
-  std::size_t multibyte = 0, invalid = 0;
+// Well-formed multibyte sequences and ill-formed bytes of UTF-8 text.
+struct Utf8Tally {
+  std::size_t multibyte = 0;
+  std::size_t invalid = 0;
+  // More well-formed multibyte sequences than ill-formed bytes: code-page
+  // text rarely forms them, so this is damaged UTF-8.
+  bool mostly_utf8() const { return multibyte > invalid; }
+};
+
+// Counts the sequences of text up to a sequence cut off by its end, and
+// returns where that one starts (text.size() when none is).
+std::size_t tally_utf8(std::string_view text, Utf8Tally& tally) {
   for (std::size_t at = 0; at < text.size();) {
     at += ascii_prefix(text.substr(at));
     if (at == text.size()) break;
     const Sequence sequence = sequence_at(text, at);
-    if (sequence.status == SequenceStatus::kTruncated) break;
-    (sequence.status == SequenceStatus::kValid ? multibyte : invalid) += 1;
+    if (sequence.status == SequenceStatus::kTruncated) return at;
+    (sequence.status == SequenceStatus::kValid ? tally.multibyte : tally.invalid) += 1;
     at += sequence.length;
   }
-  return multibyte > invalid;
+  return text.size();
+}
+
+bool mostly_utf8(std::string_view text) {
+  Utf8Tally tally;
+  tally_utf8(text, tally);
+  return tally.mostly_utf8();
 }
 
 }  // namespace
 
-bool TextDecoder::fill() {
-  if (at_end_) return true;
+bool TextDecoder::fill(bool more) {
+  if (at_end_ || (!more && pending_.size() >= kPiece)) return true;
   const std::size_t old = pending_.size();
   pending_.resize(old + kPiece);
   const std::size_t got = input_.read_full(pending_.data() + old, kPiece);
@@ -128,7 +142,7 @@ bool TextDecoder::fill() {
 }
 
 bool TextDecoder::start() {
-  if (!fill()) return false;
+  if (!fill(false)) return false;
   const std::string path = input_.name() == "-" ? "" : input_.name();
   const unsigned examined = KILNUTIL_DetectEncoding_GetBufSizeFromFilePath(path.c_str());
   const std::size_t count = examined == 0 ? pending_.size() : std::min<std::size_t>(pending_.size(), examined);
@@ -216,45 +230,44 @@ bool TextDecoder::take_valid_text(std::string_view text, std::string& out) {
   return true;
 }
 
-bool TextDecoder::rest_is_utf8(std::size_t from) {
+TextDecoder::Utf8Verdict TextDecoder::check_rest_as_utf8() {
   const std::uint64_t resume = input_.offset();
   std::FILE* spool = nullptr;
   if (!at_end_ && !input_.seekable() && (spool = std::tmpfile()) == nullptr) {
     error_ = "cannot make a temporary copy of the input to check its encoding";
-    return false;
+    return Utf8Verdict::kFailed;
   }
-  std::string window = pending_.substr(from);
+  Utf8Tally tally;
+  std::string window = pending_;
   std::string chunk(kPiece, '\0');
-  bool valid = true, more = !at_end_;
-  while (true) {
-    if (valid) {
-      const std::size_t end = complete_utf8_end(window);
-      valid = valid_utf8_prefix(std::string_view(window).substr(0, more ? end : window.size())) == (more ? end : window.size());
-      window.erase(0, more ? end : window.size());
+  for (bool more = !at_end_;;) {
+    const std::size_t cut = tally_utf8(window, tally);
+    if (!more) {
+      tally.invalid += cut < window.size() ? 1 : 0;  // cut off by the end of the input
+      break;
     }
-    if (!more || (!valid && spool == nullptr)) break;
+    window.erase(0, cut);
     const std::size_t got = input_.read(chunk.data(), chunk.size());
-    if (input_.failed()) {
-      error_ = input_.error();
+    if (input_.failed()) error_ = input_.error();
+    if (spool != nullptr && error_.empty() && std::fwrite(chunk.data(), 1, got, spool) != got) {
+      error_ = "cannot write the temporary copy of the input";
+    }
+    if (!error_.empty()) {
       if (spool != nullptr) std::fclose(spool);
-      return false;
+      return Utf8Verdict::kFailed;
     }
     more = got > 0;
-    if (spool != nullptr && std::fwrite(chunk.data(), 1, got, spool) != got) {
-      error_ = "cannot write the temporary copy of the input";
-      std::fclose(spool);
-      return false;
-    }
-    if (valid) window.append(chunk, 0, got);
+    window.append(chunk, 0, got);
   }
   if (spool != nullptr) {
     std::rewind(spool);
     input_.adopt(spool, resume);
   } else if (!at_end_ && !input_.seek_back(resume)) {
     error_ = "cannot return to the checked part of the input";
-    return false;
+    return Utf8Verdict::kFailed;
   }
-  return valid;
+  if (tally.invalid == 0) return Utf8Verdict::kValid;
+  return tally.mostly_utf8() ? Utf8Verdict::kDamaged : Utf8Verdict::kNotUtf8;
 }
 
 bool TextDecoder::decode_ascii_so_far(std::string& out) {
@@ -263,12 +276,13 @@ bool TextDecoder::decode_ascii_so_far(std::string& out) {
   consume(ascii);
   if (pending_.empty()) return true;
   const std::uint64_t first = pending_offset_;
-  const bool utf8 = rest_is_utf8(0);
-  if (!error_.empty()) return false;
+  const Utf8Verdict verdict = check_rest_as_utf8();
+  if (verdict == Utf8Verdict::kFailed) return false;
   const std::string where = "first non-ASCII byte at offset " + std::to_string(first);
-  if (utf8) {
+  if (verdict != Utf8Verdict::kNotUtf8) {
     mode_ = Mode::kUtf8;
-    note_ = "ASCII in the bytes the detection examined; " + where + ", valid UTF-8 to the end";
+    note_ = "ASCII in the bytes the detection examined; " + where +
+            (verdict == Utf8Verdict::kValid ? ", valid UTF-8 to the end" : ", mostly valid UTF-8");
   } else {
     mode_ = Mode::kCodePage;
     code_page_ = locale_code_page() == 65001 ? 1252 : locale_code_page();
@@ -382,7 +396,7 @@ bool TextDecoder::next(std::string& out) {
   if (!error_.empty()) return false;
   const std::size_t before = out.size();
   while (true) {
-    if (pending_.size() < kPiece && !fill()) return false;
+    if (!fill(false)) return false;
     if (pending_.empty() && at_end_) return out.size() > before;
     const std::size_t pending_before = pending_.size();
     const Mode mode_before = mode_;
@@ -396,17 +410,7 @@ bool TextDecoder::next(std::string& out) {
     if (!ok) return false;
     if (out.size() > before) return true;
     // Nothing decodable yet (a long line of two-byte text): read more.
-    if (pending_.size() == pending_before && mode_ == mode_before && !at_end_) {
-      const std::size_t old = pending_.size();
-      pending_.resize(old + kPiece);
-      const std::size_t got = input_.read_full(pending_.data() + old, kPiece);
-      pending_.resize(old + got);
-      if (input_.failed()) {
-        error_ = input_.error();
-        return false;
-      }
-      at_end_ = got < kPiece;
-    }
+    if (pending_.size() == pending_before && mode_ == mode_before && !fill(true)) return false;
   }
 }
 

@@ -41,14 +41,18 @@ public:
 private:
   enum class Mode { kAsciiSoFar, kUtf8, kCodePage, kUtf16Le, kUtf16Be, kUtf32Le, kUtf32Be };
 
-  bool fill();
+  // Reads a piece when fewer than a piece's bytes wait (or always, with more).
+  bool fill(bool more);
   void choose_mode();
   bool refuse_binary_head();
   bool decode_ascii_so_far(std::string& out);
   bool decode_utf8(std::string& out);
   bool decode_code_page(std::string& out);
   bool decode_wide(std::string& out);
-  bool rest_is_utf8(std::size_t from);
+  enum class Utf8Verdict { kValid, kDamaged, kNotUtf8, kFailed };
+  // Checks pending_ and the rest of the input as UTF-8 and comes back to
+  // where it was (a pipe is copied to a temporary file on the way).
+  Utf8Verdict check_rest_as_utf8();
   bool take_valid_text(std::string_view text, std::string& out);
   bool fail_invalid(std::size_t at, std::string_view what);
   bool fail_binary(std::size_t at);
