@@ -54,6 +54,18 @@ std::optional<SYSTEMTIME> iso_date(std::string_view text) {
   return time;
 }
 
+// Whether the library's number grammar can accept the text: it starts (after
+// blanks) with a digit, a sign, a decimal mark, a quote of a character
+// constant, or the first letter of an infinity or NaN name. Other text is
+// not handed to the parser.
+bool may_be_number(std::string_view text) {
+  const std::size_t at = text.find_first_not_of(" \t");
+  if (at == std::string_view::npos) return false;
+  const auto c = static_cast<unsigned char>(text[at]);
+  if (c >= 0x80) return false;
+  return !std::isalpha(c) || c == 'i' || c == 'I' || c == 'n' || c == 'N';
+}
+
 }  // namespace
 
 void read_cell(std::string_view field, CellValue& cell) {
@@ -61,13 +73,15 @@ void read_cell(std::string_view field, CellValue& cell) {
   cell.number.reset();
   cell.date.reset();
   if (cell.text.empty()) return;
-  cell.scratch = cell.text;  // the parser may leave its text changed
-  const double number = KILNUTIL_str2real(cell.scratch.data());
-  if (!is_missing_value(number)) cell.number = number;
   if (const std::optional<SYSTEMTIME> time = iso_date(cell.text)) {
     double value = 0;
     if (SystemTimeToJulianDate(&value, &*time, nullptr) == 1) cell.date = value;
+    return;  // a date is not a number ("2024-03-01" has text after "2024")
   }
+  if (!may_be_number(cell.text)) return;
+  cell.scratch = cell.text;  // the parser may leave its text changed
+  const double number = KILNUTIL_str2real(cell.scratch.data());
+  if (!is_missing_value(number)) cell.number = number;
 }
 
 void set_decimal_mark(char mark) {

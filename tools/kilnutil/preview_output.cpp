@@ -202,7 +202,11 @@ public:
   NdjsonWriter(const PreviewOptions& options, std::string& out) : options_(options), out_(out) {}
 
   void begin(const std::vector<PreviewColumn>& columns) override {
-    for (const std::string& name : unique_names(columns)) keys_.push_back("," + json_string(name) + ":");
+    for (const std::string& name : unique_names(columns)) {
+      std::string key(1, ',');
+      append_json_string(name, key);
+      keys_.push_back(key + ':');
+    }
   }
 
   void row(const PreviewRow& row) override {
