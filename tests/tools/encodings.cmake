@@ -46,3 +46,9 @@ while(legacy_index LESS legacy_count)
   kilnutil_cli_test(NAME to_utf8_${legacy_file} ARGS to-utf8 -c ${legacy_name} ${cli}/${legacy_file} STDOUT "^${legacy_text}\n$")
   math(EXPR legacy_index "${legacy_index} + 3")
 endwhile()
+kilnutil_cli_test(NAME to_utf8_output_not_writable ARGS to-utf8 ${enc}/ascii.txt -o tests/data/no_such_folder/out.txt
+  RC 1 STDERR "^kilnutil: tests/data/no_such_folder/out.txt: No such file or directory\n$")
+if(EXISTS /dev/full)
+  kilnutil_cli_test(NAME to_utf8_write_failure ARGS to-utf8 ${enc}/ascii.txt -o /dev/full
+    RC 1 STDERR "^kilnutil: /dev/full: No space left on device\n$")
+endif()

@@ -87,7 +87,7 @@ int run_base64(Args args) {
     progress.update(input.offset());
     if (got < kPiece) break;
   }
-  if (!output.finish()) return file_error("standard output", output.error());
+  if (!output.finish()) return file_error(output.name(), output.error());
   if (input.failed()) return file_error(path, input.error());
   if (!decoded) return file_error(path, decoder.error());
   return kOk;

@@ -188,7 +188,7 @@ int PreviewRun::run() {
   if (reader_.error().empty()) writer_->end(summary_);
   const bool written = flush() && (output_ == nullptr || output_->finish());
   if (!reader_.error().empty()) return fail(reader_.error());
-  if (!written) return file_error("standard output", output_->error());
+  if (!written) return file_error(output_->name(), output_->error());
   return kOk;
 }
 

@@ -59,7 +59,7 @@ int run_to_utf8(Args args) {
   TextDecoder decoder(input, options.decode);
   if (!decoder.start()) return file_error(options.input, decoder.error());
   OutputFile output;
-  if (!output.open(options.output)) return file_error(options.output, output.error());
+  if (!output.open(options.output)) return file_error(output.name(), output.error());
 
   Progress progress("to-utf8", input.size());
   std::string text;

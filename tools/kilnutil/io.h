@@ -59,7 +59,8 @@ public:
 
   // Standard output for "" or "-", else the named file (created or emptied).
   bool open(const std::string& name);
-  const std::string& name() const { return name_; }
+  // The file's name, "standard output" for "-".
+  std::string name() const { return name_ == "-" ? "standard output" : name_; }
   bool write(const char* bytes, std::size_t size);
   bool write(const std::string& text) { return write(text.data(), text.size()); }
   // Flushes and closes; false when anything failed (error() says why).
