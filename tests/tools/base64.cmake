@@ -25,3 +25,6 @@ if(coreutils_base64 AND python3_for_base64)
       $<TARGET_FILE:kilnutil_cli> ${coreutils_base64})
   set_tests_properties(cli.base64_differential PROPERTIES LABELS cli)
 endif()
+kilnutil_cli_test(NAME base64_decode_stdin ARGS base64 --decode STDIN ${PROJECT_SOURCE_DIR}/tests/data/encodings/foobar.b64
+  RC 1 STDOUT "^foo$" STDERR "^kilnutil: standard input: invalid input")
+kilnutil_cli_test(NAME base64_help_example ARGS help base64 STDOUT "-w, --wrap COLS.*kilnutil base64 -w 0")

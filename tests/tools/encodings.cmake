@@ -52,3 +52,7 @@ if(EXISTS /dev/full)
   kilnutil_cli_test(NAME to_utf8_write_failure ARGS to-utf8 ${enc}/ascii.txt -o /dev/full
     RC 1 STDERR "^kilnutil: /dev/full: No space left on device\n$")
 endif()
+kilnutil_cli_test(NAME detect_stdin ARGS detect - STDIN ${cli}/late_cp1252.csv
+  STDOUT "^-: 512 ASCII, mark 0 bytes, read as Windows-1252 \\(code page 1252\\)")
+kilnutil_cli_test(NAME to_utf8_same_file ARGS to-utf8 ${enc}/ascii.txt -o ${enc}/ascii.txt RC 2 STDERR "must not be the input")
+kilnutil_cli_test(NAME to_utf8_named_utf16 ARGS to-utf8 -c utf-16le ${enc}/utf16le_mark.txt STDOUT "^Grüße € 5\r\n")
