@@ -32,6 +32,7 @@ public:
 
 private:
   bool pull();
+  bool take_plain_line(std::string_view& record);
 
   TextDecoder& decoder_;
   std::string text_;

@@ -10,6 +10,7 @@
 
 #include <cctype>
 #include <charconv>
+#include <cmath>
 
 namespace kilnutil_cli {
 
@@ -89,10 +90,21 @@ void set_decimal_mark(char mark) {
   KILNUTIL_cvtstr2real_ex(text, nullptr, 0, nullptr);
 }
 
-std::string number_text(double value) {
+void append_number(double value, std::string& out) {
   char buffer[64];
-  const auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
-  return std::string(buffer, result.ptr);
+  // Whole numbers below 2^53 print as integers, the shortest form already.
+  constexpr double kExactIntegers = 9007199254740992.0;
+  const bool whole = value > -kExactIntegers && value < kExactIntegers &&
+                     value == static_cast<double>(static_cast<long long>(value)) && !(value == 0 && std::signbit(value));
+  const auto result = whole ? std::to_chars(buffer, buffer + sizeof buffer, static_cast<long long>(value))
+                            : std::to_chars(buffer, buffer + sizeof buffer, value);
+  out.append(buffer, result.ptr);
+}
+
+std::string number_text(double value) {
+  std::string text;
+  append_number(value, text);
+  return text;
 }
 
 }  // namespace kilnutil_cli

@@ -23,5 +23,6 @@ void set_decimal_mark(char mark);
 
 // A double in its shortest round-trip form.
 std::string number_text(double value);
+void append_number(double value, std::string& out);
 
 }  // namespace kilnutil_cli

@@ -7,6 +7,7 @@
 #include <kilnutil/numeric.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace kilnutil_cli {
 
@@ -134,8 +135,15 @@ private:
   bool widths_fixed_ = false;
 };
 
+// JSON has no infinity or NaN: those numbers are written as null.
+void append_json_number(double value, std::string& out) {
+  if (std::isfinite(value)) append_number(value, out);
+  else out += "null";
+}
+
 void append_number_or_null(const std::optional<double>& value, std::string& out) {
-  out += value ? number_text(*value) : "null";
+  if (value) append_json_number(*value, out);
+  else out += "null";
 }
 
 class JsonWriter : public PreviewWriter {
@@ -214,8 +222,8 @@ public:
     for (std::size_t i = 0; i < row.cells.size(); ++i) {
       const CellValue& cell = row.cells[i];
       out_ += keys_[i];
-      if (cell.date && options_.date_values) out_ += number_text(*cell.date);
-      else if (cell.number && !cell.date) out_ += number_text(*cell.number);
+      if (cell.date && options_.date_values) append_json_number(*cell.date, out_);
+      else if (cell.number && !cell.date) append_json_number(*cell.number, out_);
       else if (cell.text.empty()) out_ += "null";
       else append_json_string(cell.text, out_);
     }
@@ -230,8 +238,15 @@ private:
   std::vector<std::string> keys_;
 };
 
+bool needs_csv_quotes(std::string_view text) {
+  for (const char c : text) {
+    if (c == ',' || c == '"' || c == '\r' || c == '\n') return true;
+  }
+  return false;
+}
+
 void append_csv_text(std::string_view text, std::string& out) {
-  if (text.find_first_of(",\"\r\n") == std::string_view::npos) {
+  if (!needs_csv_quotes(text)) {
     out += text;
     return;
   }
@@ -260,8 +275,8 @@ public:
     for (std::size_t i = 0; i < row.cells.size(); ++i) {
       const CellValue& cell = row.cells[i];
       if (i) out_ += ',';
-      if (cell.date && options_.date_values) out_ += number_text(*cell.date);
-      else if (cell.number && !cell.date) out_ += number_text(*cell.number);
+      if (cell.date && options_.date_values) append_number(*cell.date, out_);
+      else if (cell.number && !cell.date) append_number(*cell.number, out_);
       else append_csv_text(cell.text, out_);
     }
     out_ += '\n';
