@@ -1,6 +1,7 @@
 // Record and field cutting for the preview.
 #include "csv_records.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace kilnutil_cli {
@@ -24,6 +25,7 @@ bool may_precede_field(char c, char separator) {
 
 bool RecordReader::pull() {
   if (ended_) return false;
+  quote_at_ = return_at_ = kUnknown;
   if (at_ > 0) {
     text_.erase(0, at_);
     at_ = 0;
@@ -39,16 +41,16 @@ bool RecordReader::pull() {
 // The common record: a line without double quotes or carriage returns (other
 // than one ending it), found with two fast searches.
 bool RecordReader::take_plain_line(std::string_view& record) {
-  const std::string_view rest = std::string_view(text_).substr(at_);
-  const std::size_t feed = rest.find('\n');
-  if (feed == std::string_view::npos) return false;
-  std::string_view line = rest.substr(0, feed);
-  if (line.find('"') != std::string_view::npos) return false;
-  const std::size_t carriage_return = line.find('\r');
-  if (carriage_return != std::string_view::npos && carriage_return + 1 != line.size()) return false;
-  if (carriage_return != std::string_view::npos) line.remove_suffix(1);
+  const std::size_t feed = text_.find('\n', at_);
+  if (feed == std::string::npos) return false;
+  // The next quote and carriage return are searched once for many lines.
+  if (quote_at_ == kUnknown || quote_at_ < at_) quote_at_ = std::min(text_.find('"', at_), text_.size());
+  if (return_at_ == kUnknown || return_at_ < at_) return_at_ = std::min(text_.find('\r', at_), text_.size());
+  if (quote_at_ < feed || (return_at_ + 1 < feed)) return false;
+  std::string_view line(text_.data() + at_, feed - at_);
+  if (return_at_ + 1 == feed) line.remove_suffix(1);
   record = line;
-  at_ += feed + 1;
+  at_ = feed + 1;
   ++count_;
   return true;
 }

@@ -38,6 +38,9 @@ private:
   std::string text_;
   std::size_t at_ = 0;
   std::uint64_t count_ = 0;
+  static constexpr std::size_t kUnknown = static_cast<std::size_t>(-1);
+  std::size_t quote_at_ = kUnknown;   // the next double quote at or after at_ (text_.size(): none)
+  std::size_t return_at_ = kUnknown;  // the next carriage return likewise
   bool ended_ = false;
   char separator_ = 0;
   std::string error_;
