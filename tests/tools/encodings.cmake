@@ -56,3 +56,6 @@ kilnutil_cli_test(NAME detect_stdin ARGS detect - STDIN ${cli}/late_cp1252.csv
   STDOUT "^-: 512 ASCII, mark 0 bytes, read as Windows-1252 \\(code page 1252\\)")
 kilnutil_cli_test(NAME to_utf8_same_file ARGS to-utf8 ${enc}/ascii.txt -o ${enc}/ascii.txt RC 2 STDERR "must not be the input")
 kilnutil_cli_test(NAME to_utf8_named_utf16 ARGS to-utf8 -c utf-16le ${enc}/utf16le_mark.txt STDOUT "^Grüße € 5\r\n")
+kilnutil_cli_test(NAME detect_json_with_missing_file ARGS detect --json ${enc}/missing.txt ${enc}/utf8.txt RC 1
+  STDOUT "^\\[{\"file\":\"tests/data/encodings/missing.txt\",\"code\":255,\"name\":\"empty\",\"mark_bytes\":0,\"error\":\"No such file or directory\"},{\"file\":\"tests/data/encodings/utf8.txt\",\"code\":1,.*\"read_as\":\"UTF-8\"}\\]\n$"
+  STDERR "missing.txt: No such file or directory")

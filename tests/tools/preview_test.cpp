@@ -125,6 +125,30 @@ TEST(ToolPreview, TableAndJson) {
   EXPECT_NE(document.output.find("\"text\":\"a\\tb\""), std::string::npos);
 }
 
+// The table fixes its column widths from the first 200 rows shown; later,
+// wider cells are cut to those widths rather than breaking the alignment.
+TEST(ToolPreview, TableWidthsAfterTheFirstRows) {
+  std::string text = "n,word\n";
+  for (int i = 0; i < 1200; ++i) text += std::to_string(i % 10) + (i < 200 ? ",ab\n" : ",abcdef\n");
+  PreviewOptions options;
+  options.limit = 0;
+  const PreviewResult result = preview(text, options);
+  EXPECT_EQ(result.rc, 0);
+  EXPECT_NE(result.output.find("\n201  9  ab\n"), std::string::npos);
+  EXPECT_NE(result.output.find("\n202  0  abc\xE2\x80\xA6\n"), std::string::npos);
+  EXPECT_NE(result.output.find("\n1201  9  abc\xE2\x80\xA6\n"), std::string::npos);
+}
+
+TEST(ToolPreview, NamesAndRequestsThatWantNothing) {
+  PreviewOptions repeated = csv_options();
+  repeated.format = PreviewFormat::kNdjson;
+  EXPECT_EQ(preview("x;x;y\n1;2;3\n", repeated).output, "{\"row\":2,\"x\":1,\"x (2)\":2,\"y\":3}\n");
+  EXPECT_EQ(preview("a,b\n1,2\n3,4\n", csv_options("~2")).output, "a,b\n");
+  PreviewOptions skipped = csv_options();
+  skipped.skip = 10;
+  EXPECT_EQ(preview("a,b\n1,2\n", skipped).output, "1\n");
+}
+
 TEST(ToolPreview, FailuresExitWithOne) {
   const struct {
     const char* name;

@@ -135,4 +135,49 @@ TEST(ToolTextDecoder, ChecksRegularFilesBySeekingBack) {
       << decoded.description;
 }
 
+// After checking ahead, a regular file is read on from where the check
+// started: the code-page text after the ASCII prefix converts whole.
+TEST(ToolTextDecoder, ReadsOnAfterTheCheckFailed) {
+  const std::filesystem::path path = std::filesystem::temp_directory_path() / "kilnutil_tool_decoder_back.csv";
+  const std::string prefix = ascii(70000);
+  std::string tail;
+  for (int i = 0; i < 200000; ++i) tail += "Stra\xDF" "e;";
+  std::ofstream(path, std::ios::binary) << prefix << tail;
+  kilnutil_cli::InputFile input;
+  ASSERT_TRUE(input.open(path.string()));
+  const kilnutil_cli_test::Decoded decoded = kilnutil_cli_test::decode_all(input, {});
+  std::filesystem::remove(path);
+  std::string expected = prefix;
+  for (int i = 0; i < 200000; ++i) expected += "Stra\xC3\x9F" "e;";
+  EXPECT_EQ(decoded.error, "");
+  EXPECT_TRUE(decoded.text == expected) << decoded.text.size() << " bytes, want " << expected.size();
+  EXPECT_NE(decoded.description.find("Windows-1252"), std::string::npos) << decoded.description;
+}
+
+// Forms the user names are read as named, their marks skipped; UTF-16
+// without a mark is taken from the library's guess.
+TEST(ToolTextDecoder, NamedAndGuessedForms) {
+  const struct {
+    const char* name;
+    std::string bytes;
+    DecodeOptions options;
+    std::string text;
+  } cases[] = {
+      {"named UTF-16LE with its mark", std::string("\xFF\xFE" "a\0b\0", 6),
+       {TextEncoding{TextForm::kUtf16Le, 1200}, false, false}, "ab"},
+      {"named UTF-16BE without a mark", std::string("\0a\0b", 4), {TextEncoding{TextForm::kUtf16Be, 1201}, false, false},
+       "ab"},
+      {"guessed UTF-16LE", std::string("a\0b\0\n\0", 6), {}, "ab\n"},
+      {"named code page 1251", "\xCF\xF0\xE8", {TextEncoding{TextForm::kCodePage, 1251}, false, false},
+       "\xD0\x9F\xD1\x80\xD0\xB8"},
+      {"NUL in code-page text, forced", std::string("\xE9\0\xE9", 3),
+       {TextEncoding{TextForm::kCodePage, 1252}, true, false}, std::string("\xC3\xA9\0\xC3\xA9", 5)},
+  };
+  for (const auto& c : cases) {
+    const kilnutil_cli_test::Decoded decoded = decode_piped(c.bytes, c.options);
+    EXPECT_EQ(decoded.error, "") << c.name;
+    EXPECT_EQ(decoded.text, c.text) << c.name;
+  }
+}
+
 }  // namespace

@@ -116,8 +116,10 @@ private:
 
   void write_line(const std::vector<std::string>& texts, const std::vector<bool>& right) {
     for (std::size_t i = 0; i < texts.size() && i < widths_.size(); ++i) {
-      const std::string text = code_points(texts[i]) > widths_[i] ? cut(texts[i], widths_[i]) : texts[i];
-      const std::size_t fill = widths_[i] - code_points(text);
+      // Row numbers are never cut: a longer one only shifts its line.
+      const bool too_wide = code_points(texts[i]) > widths_[i];
+      const std::string text = too_wide && i > 0 ? cut(texts[i], widths_[i]) : texts[i];
+      const std::size_t fill = too_wide ? 0 : widths_[i] - code_points(text);
       if (i > 0) out_ += "  ";
       if (right[i]) pad(out_, fill);
       out_ += text;
