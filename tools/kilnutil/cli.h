@@ -35,8 +35,23 @@ void print_command_help(const Command& command);
 int usage_error(std::string_view message);
 // Prints "kilnutil: <message>" on stderr and returns kInputFailed.
 int input_error(std::string_view message);
+// Prints "kilnutil: <file>: <reason>" on stderr and returns kInputFailed;
+// standard input ("-") is named "standard input".
+int file_error(std::string_view file, std::string_view reason);
+
+// The system's text for an error number, such as "Permission denied".
+std::string system_reason(int error_number);
+
+// The name that stands for standard input (or output).
+inline const std::string kStandardStream = "-";
+
+// How a file argument is named in messages.
+std::string display_name(std::string_view file);
 
 // The text of an argument, or all of standard input for "-".
 std::string text_argument(const char* arg);
+
+// Whether the argument is one of the help options (--help, -h).
+bool is_help_option(std::string_view arg);
 
 }  // namespace kilnutil_cli

@@ -1,11 +1,17 @@
-// kilnutil detect FILE...: the encoding of each file as the import code sees
-// it (the leading bytes its extension calls for), with the mark size.
+// kilnutil detect [--json] [-c NAME] [--force] FILE...: the encoding of each
+// file as the library's detection sees its leading bytes (code, name, mark
+// size), and what the tool reads it as after checking the whole file.
 #include "commands.h"
+#include "io.h"
+#include "json.h"
+#include "text_decoder.h"
+#include "text_options.h"
 
 #include <kilnutil/unicode.h>
 
 #include <cstdio>
 #include <string>
+#include <vector>
 
 namespace kilnutil_cli {
 
@@ -28,21 +34,71 @@ const char* encoding_name(unsigned code) {
   }
 }
 
+struct FileAnswer {
+  unsigned code = KILNUTIL_ENCODING_NONE;
+  std::string read_as;
+  std::string error;
+};
+
+// Reads the whole file through the decoder, so that the answer holds for all of it.
+FileAnswer detect_file(const std::string& path, const DecodeOptions& options) {
+  FileAnswer answer;
+  InputFile input;
+  if (!input.open(path)) {
+    answer.error = input.error();
+    return answer;
+  }
+  TextDecoder decoder(input, options);
+  const bool started = decoder.start();
+  answer.code = decoder.detected_code();
+  std::string text;
+  while (started && decoder.next(text)) text.clear();
+  answer.error = decoder.error();
+  answer.read_as = decoder.description();
+  return answer;
+}
+
+void print_text(const std::string& path, const FileAnswer& answer) {
+  std::printf("%s: %u %s, mark %d bytes, read as %s\n", path.c_str(), answer.code, encoding_name(answer.code),
+              KILNUTIL_GetBOMSize(answer.code), answer.read_as.c_str());
+}
+
+std::string json_object(const std::string& path, const FileAnswer& answer) {
+  std::string out = "{\"file\":" + json_string(path) + ",\"code\":" + std::to_string(answer.code) +
+                    ",\"name\":" + json_string(encoding_name(answer.code)) +
+                    ",\"mark_bytes\":" + std::to_string(KILNUTIL_GetBOMSize(answer.code));
+  if (answer.error.empty()) out += ",\"read_as\":" + json_string(answer.read_as);
+  else out += ",\"error\":" + json_string(answer.error);
+  return out + "}";
+}
+
 }  // namespace
 
 int run_detect(Args args) {
-  if (args.empty()) return usage_error("detect takes one or more files");
-  int status = kOk;
-  for (const char* path : args) {
-    FILE* stream = std::fopen(path, "rb");
-    if (stream == nullptr) {
-      status = input_error(std::string("cannot open '") + path + "'");
-      continue;
-    }
-    const unsigned code = KILNUTIL_DetectEncoding(stream, KILNUTIL_DetectEncoding_GetBufSizeFromFilePath(path), 0);
-    std::fclose(stream);
-    std::printf("%s: %u %s, mark %d bytes\n", path, code, encoding_name(code), KILNUTIL_GetBOMSize(code));
+  DecodeOptions options;
+  bool json = false;
+  std::vector<std::string> paths;
+  for (std::size_t i = 0; i < args.size(); ++i) {
+    const std::string arg = args[i];
+    std::string problem;
+    const OptionMatch match = take_text_option(args, i, options, problem);
+    if (match == OptionMatch::kWrong) return usage_error(problem);
+    if (match == OptionMatch::kTaken) continue;
+    if (arg == "--json") json = true;
+    else if (arg == "-" || arg[0] != '-') paths.push_back(arg);
+    else return usage_error("detect: unknown option '" + arg + "'");
   }
+  if (paths.empty()) return usage_error("detect takes one or more files (- for standard input)");
+  int status = kOk;
+  std::string listing = "[";
+  for (const std::string& path : paths) {
+    const FileAnswer answer = detect_file(path, options);
+    if (!answer.error.empty()) status = file_error(path, answer.error);
+    if (json && listing.size() > 1) listing += ',';
+    if (json) listing += json_object(path, answer);
+    else if (answer.error.empty()) print_text(path, answer);
+  }
+  if (json) std::printf("%s]\n", listing.c_str());
   return status;
 }
 

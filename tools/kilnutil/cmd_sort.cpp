@@ -4,14 +4,17 @@
 // the missing value), sorted by KilnMath_Sort. Prints each value to 17
 // significant digits (or the missing-value text) with its line number.
 #include "commands.h"
+#include "csv_records.h"
+#include "io.h"
 #include "preview_cell.h"
-#include "preview_file.h"
-#include "stdin_file.h"
+#include "separator_guess.h"
+#include "text_decoder.h"
 
 #include <kilnutil/frame.h>
 #include <kilnutil/math.h>
 #include <kilnutil/numeric.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <optional>
@@ -73,19 +76,43 @@ int parse_sort_options(Args args, SortOptions& options) {
   return kOk;
 }
 
-// The column's cells, one per line; lines without the column give the missing value.
-std::vector<double> read_column(std::string text, int separator, int column) {
+// The records of the input (the tool's decoder: encoding decided on the whole
+// file, quoted fields may span lines); false with the reason on failure.
+bool read_records(InputFile& input, std::vector<std::string>& records, std::string& error) {
+  TextDecoder decoder(input, DecodeOptions{});
+  if (!decoder.start()) {
+    error = decoder.error();
+    return false;
+  }
+  RecordReader reader(decoder);
+  for (std::string_view record; reader.next(record);) records.emplace_back(record);
+  error = reader.error();
+  return error.empty();
+}
+
+// The separator as asked, or as the first lines show it; the decimal mark
+// from the data either way.
+char choose_layout(const std::vector<std::string>& records, int asked) {
+  constexpr std::size_t kHeadLines = 50;
+  const std::vector<std::string> head(records.begin(),
+                                      records.begin() + static_cast<std::ptrdiff_t>(std::min(kHeadLines, records.size())));
+  const char separator = asked != 0 ? static_cast<char>(asked) : choose_separator(head).separator;
+  set_decimal_mark(choose_decimal(head, separator).mark);
+  return separator;
+}
+
+// The column's cells, one per record; records without the column give the
+// missing value.
+std::vector<double> read_column(const std::vector<std::string>& records, char separator, int column) {
   std::vector<double> keys;
-  if (!text.empty() && text.back() == '\n') text.pop_back();
-  for (std::size_t at = 0; at <= text.size();) {
-    std::size_t end = text.find('\n', at);
-    if (end == std::string::npos) end = text.size();
-    std::string line = text.substr(at, end - at);
-    const std::vector<char*> fields = split_fields(line, separator);
-    const auto wanted = static_cast<std::size_t>(column - 1);
-    const std::optional<double> number = wanted < fields.size() ? read_cell(fields[wanted]).number : std::nullopt;
-    keys.push_back(number ? *number : KILNUTIL_NANUM);
-    at = end + 1;
+  keys.reserve(records.size());
+  std::vector<std::string_view> fields;
+  CellValue cell;
+  const auto wanted = static_cast<std::size_t>(column - 1);
+  for (const std::string& record : records) {
+    split_fields(record, separator, fields);
+    if (wanted < fields.size()) read_cell(fields[wanted], cell);
+    keys.push_back(wanted < fields.size() && cell.number ? *cell.number : KILNUTIL_NANUM);
   }
   return keys;
 }
@@ -95,30 +122,18 @@ std::vector<double> read_column(std::string text, int separator, int column) {
 int run_sort(Args args) {
   SortOptions options;
   if (const int rc = parse_sort_options(args, options); rc != kOk) return rc;
-  const std::string name = options.path == "-" ? "(stdin)" : options.path;
-  StdinFile stdin_copy;
-  const std::string path = options.path == "-" ? stdin_copy.path() : options.path;
-  if (path.empty()) return input_error(name + ": cannot keep a copy of standard input");
-
-  Utf8TextFile file(path);
-  if (!file.ok()) return input_error(name + ": " + file.error());
-  std::string text = read_head(file);
-  int separator = options.separator;
-  if (separator == 0) {
-    separator = find_table_layout(text).separator;
-  } else if (separator == ';') {
-    use_decimal_comma();
-  }
-  std::vector<char> block(1 << 20);
-  for (std::size_t got; (got = file.read(block.data(), block.size())) > 0;) text.append(block.data(), got);
-  if (text.empty()) return kOk;
-
-  std::vector<double> keys = read_column(std::move(text), separator, options.column);
+  InputFile input;
+  if (!input.open(options.path)) return file_error(options.path, input.error());
+  std::vector<std::string> records;
+  std::string error;
+  if (!read_records(input, records, error)) return file_error(options.path, error);
+  if (records.empty()) return kOk;
+  std::vector<double> keys = read_column(records, choose_layout(records, options.separator), options.column);
   std::vector<unsigned> rows(keys.size());
   for (std::size_t i = 0; i < rows.size(); ++i) rows[i] = static_cast<unsigned>(i + 1);
   const auto flags = static_cast<unsigned short>(options.descending ? KILNUTIL_SORT_DESCENDING : 0);
   if (KilnMath_Sort(static_cast<int>(keys.size()), rows.data(), keys.data(), flags) != KILNUTIL_SORT_OK) {
-    return input_error(name + ": too many rows to sort (pending-range stack exhausted)");
+    return file_error(options.path, "too many rows to sort (pending-range stack exhausted)");
   }
   for (std::size_t i = 0; i < keys.size(); ++i) {
     if (is_missing_value(keys[i])) {
