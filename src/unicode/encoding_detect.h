@@ -27,7 +27,7 @@ inline constexpr unsigned encoding_family(unsigned code) { return code & 0xFF; }
 inline constexpr unsigned kGuessAllowed = 1;
 inline constexpr unsigned kGuessZeroPairRulesOutUtf16 = 4;
 // Bit of a detector's flags argument: look at the mark only.
-inline constexpr int kDetectMarkOnly = 1;
+inline constexpr int kDetectMarkOnly = KILNUTIL_DETECT_MARK_ONLY;
 
 // Whether a detector call with these flags may look beyond the mark.
 bool guessing_allowed(int flags);
