@@ -59,5 +59,7 @@ unsigned detect_encoding(const unsigned char* bytes, size_t count, int flags);
 // Detection over the first bytes of a stream (max_bytes 0: all of it, 4 when
 // only the mark counts); the stream's position is restored.
 unsigned detect_stream_encoding(FILE* stream, unsigned max_bytes, int flags);
+// The same over the first bytes of a file; kEncodingNone when it can't be opened.
+unsigned detect_file_encoding(const char* path, unsigned max_bytes, int flags);
 
 }  // namespace kiln::unicode
