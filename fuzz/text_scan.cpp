@@ -3,10 +3,12 @@
 // counters: no read past the text's NUL, and every position returned is
 // null or inside the text.
 #include "fuzz_support.h"
+#include "text/reference_exposed_search.h"
 
 #include <kilnutil/frame.h>
 #include <kilnutil/text.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -94,6 +96,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const int quote_code = KILNUTIL_count_quote_mismatch(text, &position);
   check(quote_code >= 0 && quote_code <= 8);
   inside(position);
+
+  // The plain reference decides ASCII texts with numbers kept, loc 0,
+  // escapes honoured and "<" ">" not brackets.
+  if ((prm.settings & 10) == 0 && std::all_of(text, text + length, [](char c) { return c > 0; })) {
+    int expected_status = 0;
+    const char* expected = reference::exposed_search(text, prm.target, &expected_status);
+    check(KILNUTIL_exposed_char_pos_ex_loc_ex(text, prm.target, KILNUTIL_EXPOSED_KEEP_NUMBERS, &status, 0, nullptr) ==
+          expected);
+    check(status == expected_status);
+  }
 
   if (prm.settings & 8) KILNUTIL_exposed_char_pos_ex_loc_ex(nullptr, KILNUTIL_EXPOSED_RESTORE_ESCAPES, 0, &saved_escapes, 0, nullptr);
   return 0;
