@@ -68,7 +68,7 @@ BENCHMARK(BM_ExposedSearch)->Arg(0)->Arg(0x40);
 
 void BM_StrchrExposedMode(benchmark::State& state) {
   const std::string& text = script();
-  for (auto _ : state) benchmark::DoNotOptimize(KILNUTIL_strchr(text.c_str(), kAbsent, 0));
+  for (auto _ : state) benchmark::DoNotOptimize(KILNUTIL_strchr(text.c_str(), kAbsent, KILNUTIL_STRCHR_EXPOSED));
   set_bytes(state);
 }
 BENCHMARK(BM_StrchrExposedMode);

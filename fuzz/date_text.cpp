@@ -20,6 +20,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   SYSTEMTIME fields{};
   check(is_missing_value(date) || JulianDateToSystemTime(&date, &fields, nullptr, 3));
   double value = 2451544.5;
-  KILNUTIL_dateinc(&value, reinterpret_cast<double*>(text.get()), 7, nullptr);
+  KILNUTIL_dateinc(&value, reinterpret_cast<double*>(text.get()), KILNUTIL_DATEINC_SET_FROM_TEXT, nullptr);
   return 0;
 }

@@ -48,7 +48,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
   const unsigned code = KILNUTIL_DetectEncodingBuffer(bytes.get(), count, 0);
   check(is_defined_code(code));
-  const unsigned marks_only = KILNUTIL_DetectEncodingBuffer(bytes.get(), count, 1);
+  const unsigned marks_only = KILNUTIL_DetectEncodingBuffer(bytes.get(), count, KILNUTIL_DETECT_MARK_ONLY);
   check(marks_only == 0 || (marks_only & 0x100) != 0);
   if (marks_only != 0) check(marks_only == code);
   check(kiln::unicode::utf8_verdict(bytes.get(), size) == plain_utf8_verdict(bytes.get(), size));

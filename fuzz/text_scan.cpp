@@ -3,10 +3,12 @@
 // counters: no read past the text's NUL, and every position returned is
 // null or inside the text.
 #include "fuzz_support.h"
+#include "text/reference_exposed_search.h"
 
 #include <kilnutil/frame.h>
 #include <kilnutil/text.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -58,7 +60,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   set_parenth_use_angle_brackets(prm.settings & 2);
   set_code_page_for_string_process(prm.settings & 4 ? 1252 : 65001);
   int saved_escapes = 0;
-  if (prm.settings & 8) KILNUTIL_exposed_char_pos_ex_loc_ex(nullptr, -1, 0, &saved_escapes, 0, nullptr);
+  if (prm.settings & 8) KILNUTIL_exposed_char_pos_ex_loc_ex(nullptr, KILNUTIL_EXPOSED_SAVE_AND_DISABLE_ESCAPES, 0, &saved_escapes, 0, nullptr);
 
   int status = 0;
   const char* end = text + (length == 0 ? 0 : prm.end_offset % (length + 1));
@@ -95,6 +97,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   check(quote_code >= 0 && quote_code <= 8);
   inside(position);
 
-  if (prm.settings & 8) KILNUTIL_exposed_char_pos_ex_loc_ex(nullptr, -2, 0, &saved_escapes, 0, nullptr);
+  // The plain reference decides ASCII texts with numbers kept, loc 0,
+  // escapes honoured and "<" ">" not brackets.
+  if ((prm.settings & 10) == 0 && std::all_of(text, text + length, [](char c) { return c > 0; })) {
+    int expected_status = 0;
+    const char* expected = reference::exposed_search(text, prm.target, &expected_status);
+    check(KILNUTIL_exposed_char_pos_ex_loc_ex(text, prm.target, KILNUTIL_EXPOSED_KEEP_NUMBERS, &status, 0, nullptr) ==
+          expected);
+    check(status == expected_status);
+  }
+
+  if (prm.settings & 8) KILNUTIL_exposed_char_pos_ex_loc_ex(nullptr, KILNUTIL_EXPOSED_RESTORE_ESCAPES, 0, &saved_escapes, 0, nullptr);
   return 0;
 }

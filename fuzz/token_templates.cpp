@@ -47,8 +47,8 @@ void exercise(const Ch* original, std::size_t length, int sep) {
   int status = 0;
   const Ch* hit = KILNUTILT_ExposedCharPos(text.get(), sep > 0 ? sep : 0, 0, &status);
   check(hit == nullptr || (hit >= text.get() && hit < text.get() + length));
-  KILNUTILT_StrChar(text.get(), ',', 0);
-  KILNUTILT_StrChar(text.get(), ',', 3);
+  KILNUTILT_StrChar(text.get(), ',', KILNUTIL_STRCHR_EXPOSED);
+  KILNUTILT_StrChar(text.get(), ',', KILNUTIL_STRCHR_PLAIN | KILNUTIL_STRCHR_BACKWARD);
   KILNUTILT_TrimBoth(text.get());
 }
 

@@ -107,6 +107,10 @@ KILNUTIL_API int KILNUTIL_count_quote_mismatch(const char* text, char** position
  * cut a last closer even when it does not match exposed; bits 24 to 31:
  * exposed-search flags. *kind: the pair's class 1 to 4, -1 (0x1000 case),
  * -2 (no opener but a closer last), 0. Returns the inner text. */
+#define KILNUTIL_INSIDE_TRIM_LEADING 0x1u
+#define KILNUTIL_INSIDE_CLOSER_ANYWHERE 0x2u
+#define KILNUTIL_INSIDE_CUT_LAST_CLOSER 0x1000u
+#define KILNUTIL_INSIDE_SEARCH_FLAG_BITS 0xFF000000u
 KILNUTIL_API char* KILNUTIL_str_inside_ex(char* text, unsigned int options, int* kind);
 KILNUTIL_API char* KILNUTIL_str_inside(char* text, unsigned int options);
 /* Strips pairs while there are any (*removed: 1 when one was). */

@@ -232,6 +232,7 @@ KILNUTIL_API void make_file_UTF16(const char* path, int delete_first);
 #define KILNUTIL_ENCODING_ASCII 0x200u
 #define KILNUTIL_ENCODING_NONE 255u
 /* flags bit 0: look at the mark only. */
+#define KILNUTIL_DETECT_MARK_ONLY 0x1
 KILNUTIL_API unsigned int KILNUTIL_DetectEncodingBuffer(const unsigned char* bytes, unsigned int count, int flags);
 /* Examines at most max_bytes (0: all) from the start; the position is restored. */
 KILNUTIL_API unsigned int KILNUTIL_DetectEncoding(FILE* stream, unsigned int max_bytes, int flags);

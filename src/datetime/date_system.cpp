@@ -5,6 +5,7 @@
 
 #include "datetime/calendar.h"
 #include "frame/relaxed.h"
+#include "numeric/integer_rule.h"
 #include "platform/clock.h"
 #include "unicode/ascii_case.h"
 
@@ -54,7 +55,8 @@ int code_of_name(const char* name) {
   if (unicode::equal_ignoring_ascii_case(name, "6PM")) return kSixPmCode;
   if (unicode::equal_ignoring_ascii_case(name, "1899-12-30")) return kSerialCode;
   int year = 0;
-  if ((name[0] == '1' || name[0] == '2') && KILNUTIL_cvtstr2int(name, &year) && is_year_code(year)) return year;
+  if ((name[0] == '1' || name[0] == '2') && numeric::convert_integer_text(name, &year) && is_year_code(year))
+    return year;
   return kUnknownCode;
 }
 

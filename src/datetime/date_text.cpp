@@ -72,11 +72,7 @@ int weekday_index(const char* text) {
   return -1;
 }
 
-}  // namespace kiln::datetime
-
-using namespace kiln::datetime;
-
-double KILNUTIL_str2date(const char* text) {
+double read_iso_date(const char* text) {
   if (text == nullptr) return KILNUTIL_NANUM;
   const char* p = text;
   while (is_blank(*p)) ++p;
@@ -91,3 +87,7 @@ double KILNUTIL_str2date(const char* text) {
     return KILNUTIL_NANUM;
   return value;
 }
+
+}  // namespace kiln::datetime
+
+double KILNUTIL_str2date(const char* text) { return kiln::datetime::read_iso_date(text); }

@@ -4,6 +4,7 @@
 #include "datetime/calendar.h"
 #include "datetime/date_text.h"
 #include "datetime/increment_units.h"
+#include "numeric/integer_rule.h"
 
 #include <kilnutil/datetime.h>
 #include <kilnutil/numeric.h>
@@ -223,7 +224,7 @@ int move_to_weekday(double* value, const double* argument) {
 int set_from_text(double* value, const double* argument) {
   const char* text = reinterpret_cast<const char*>(argument);
   int day = 0;
-  const bool is_day = KILNUTIL_cvtstr2int(text, &day) && day >= 1 && day <= 31;
+  const bool is_day = kiln::numeric::convert_integer_text(text, &day) && day >= 1 && day <= 31;
   const int weekday = is_day ? -1 : weekday_index(text);
   if (is_day || weekday >= 0) {
     CalendarFields f;
@@ -233,7 +234,7 @@ int set_from_text(double* value, const double* argument) {
     fields_to_value_rolling(f, value);
     return 0;
   }
-  const double date = KILNUTIL_str2date(text);
+  const double date = kiln::datetime::read_iso_date(text);
   if (!is_missing_value(date)) *value = date;
   return 0;
 }

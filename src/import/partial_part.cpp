@@ -1,6 +1,8 @@
 // Parts of a partial-import request: matching and selection clauses.
 #include "import/partial_part.h"
 
+#include "numeric/integer_rule.h"
+
 #include <kilnutil/numeric.h>
 
 #include <algorithm>
@@ -52,12 +54,13 @@ bool part_contains(const ImportFilesPartialPart& part, int i) {
 
 int request_int(std::string_view text) {
   const std::string copy(text);
-  return KILNUTIL_str2int(copy.c_str());
+  int value = 0;
+  return numeric::convert_integer_text(copy.c_str(), &value) ? value : 0;
 }
 
 bool request_is_int(std::string_view text) {
   const std::string copy(text);
-  return KILNUTIL_cvtstr2int(copy.c_str(), nullptr) != 0;
+  return numeric::convert_integer_text(copy.c_str(), nullptr);
 }
 
 bool apply_selection_clause(std::string_view skip, ImportFilesPartialPart& part, std::string_view selection) {

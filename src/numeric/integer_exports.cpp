@@ -23,18 +23,11 @@ char* trim_in_place(char* text) {
 
 }  // namespace
 
-int KILNUTIL_cvtstr2int(const char* text, int* value) {
-  if (text == nullptr) return 0;
-  const std::size_t length = strnlen(text, kShortIntegerLimit + 1);
-  std::uint32_t converted = 0;
-  if (!convert_trimmed_integer({text, text + length}, false, &converted)) return 0;
-  if (value) *value = static_cast<int>(converted);
-  return 1;
-}
+int KILNUTIL_cvtstr2int(const char* text, int* value) { return convert_integer_text(text, value) ? 1 : 0; }
 
 int KILNUTIL_str2int(const char* text) {
   int value = 0;
-  return KILNUTIL_cvtstr2int(text, &value) ? value : 0;
+  return convert_integer_text(text, &value) ? value : 0;
 }
 
 int is_str_numeric_integer(const char* text, unsigned int* value) {

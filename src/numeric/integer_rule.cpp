@@ -53,4 +53,13 @@ bool convert_trimmed_integer(TextRange range, bool cut_at_blank, std::uint32_t* 
   return follows_integer_rule(trimmed.begin, value);
 }
 
+bool convert_integer_text(const char* text, int* value) {
+  if (text == nullptr) return false;
+  const std::size_t length = strnlen(text, kShortIntegerLimit + 1);
+  std::uint32_t converted = 0;
+  if (!convert_trimmed_integer({text, text + length}, false, &converted)) return false;
+  if (value) *value = static_cast<int>(converted);
+  return true;
+}
+
 }  // namespace kiln::numeric

@@ -22,4 +22,8 @@ inline constexpr std::size_t kShortIntegerLimit = 39;
 // or follow the integer rule. *digits receives the length after trimming.
 bool convert_trimmed_integer(TextRange range, bool cut_at_blank, std::uint32_t* value, std::size_t* digits = nullptr);
 
+// KILNUTIL_cvtstr2int: a text of at most kShortIntegerLimit bytes, trimmed,
+// by the integer rule; *value (may be null) only on success.
+bool convert_integer_text(const char* text, int* value);
+
 }  // namespace kiln::numeric

@@ -1,5 +1,7 @@
 // The text that stands for the missing value, and the decimal and grouping
 // characters of the numeric separator styles.
+#include "frame/settings.h"
+
 #include <kilnutil/frame.h>
 #include <kilnutil/numeric.h>
 
@@ -32,7 +34,7 @@ char* KILNUTIL_get_missing_as_text(const char* text) {
 
 int KILNUTIL_get_missing_as_str(char* out, int mode) {
   const unsigned selector =
-      mode >= 0 ? static_cast<unsigned>(mode) : KILNUTIL_GetReal2StrInternalOptions() & kMissingAsBlankOption;
+      mode >= 0 ? static_cast<unsigned>(mode) : kiln::frame::real2str_internal_options() & kMissingAsBlankOption;
   if (selector == 0) {
     if (out) std::memcpy(out, g_missing_text, std::strlen(g_missing_text) + 1);
     return 0;

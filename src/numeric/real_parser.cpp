@@ -6,6 +6,8 @@
 // before it returns, except when the fraction conversion rejects the
 // mantissa: callers have always seen "." for the separator and a NUL behind
 // the fraction digits then, and some test for it.
+#include "numeric/real_parser.h"
+
 #include "frame/relaxed.h"
 #include "frame/settings.h"
 #include "numeric/decimal_conversion.h"
@@ -215,11 +217,8 @@ unsigned exchange_decimal_separator(const char* text) {
 }
 
 }  // namespace
-}  // namespace kiln::numeric
 
-using namespace kiln::numeric;
-
-unsigned int KILNUTIL_cvtstr2real_ex(char* text, double* value, unsigned int flags, int* integer_part) {
+unsigned convert_real_text(char* text, double* value, unsigned flags, int* integer_part) {
   if (value == nullptr) return exchange_decimal_separator(text);
   if (text == nullptr) return kNotANumber;
   const ParseResult result = parse_real(text, (flags & kStrict) != 0);
@@ -229,16 +228,28 @@ unsigned int KILNUTIL_cvtstr2real_ex(char* text, double* value, unsigned int fla
   return result.code;
 }
 
+}  // namespace kiln::numeric
+
+using kiln::numeric::convert_real_text;
+
+extern "C" {
+
+unsigned int KILNUTIL_cvtstr2real_ex(char* text, double* value, unsigned int flags, int* integer_part) {
+  return convert_real_text(text, value, flags, integer_part);
+}
+
 unsigned int KILNUTIL_cvtstr2real(char* text, double* value) {
-  return KILNUTIL_cvtstr2real_ex(text, value, kStrict, nullptr);
+  return convert_real_text(text, value, kiln::numeric::kStrict, nullptr);
 }
 
 double KILNUTIL_str2real(char* text) {
   double value = 0.0;
-  return KILNUTIL_cvtstr2real(text, &value) ? value : KILNUTIL_NANUM;
+  return convert_real_text(text, &value, kiln::numeric::kStrict, nullptr) ? value : KILNUTIL_NANUM;
 }
 
 double KILNUTIL_dbStr2Real(char* text) {
   double value = 0.0;
-  return KILNUTIL_cvtstr2real(text, &value) ? value : 0.0;
+  return convert_real_text(text, &value, kiln::numeric::kStrict, nullptr) ? value : 0.0;
 }
+
+}  // extern "C"

@@ -1,14 +1,13 @@
 #include "numeric/text_scan.h"
 
+#include "text/char_class.h"
 #include "unicode/utf8.h"
-
-#include <kilnutil/text.h>
 
 namespace kiln::numeric {
 
 bool is_blank_character(const char* p, int* length) {
   const auto cp = unicode::utf8_decode(reinterpret_cast<const unsigned char*>(p), length);
-  return KILNUTIL_isspace(static_cast<int>(cp)) != 0;
+  return text::is_space(cp);
 }
 
 const char* skip_blanks_from(const char* p) {

@@ -1,6 +1,7 @@
 // The exponent test and the number that ends a name ("Book12" is "Book" and
 // 12), as the host numbers books, sheets and columns.
 #include "numeric/text_scan.h"
+#include "text/char_class.h"
 
 #include <kilnutil/numeric.h>
 #include <kilnutil/text.h>
@@ -15,7 +16,6 @@ namespace {
 constexpr int kAnyLength = -2;
 constexpr int kSkipZeros = -1;
 constexpr std::size_t kMaxRunDigits = 8;
-constexpr unsigned char kDigitClass = 3;
 
 // The runtime's atoi on a run of digits, saturating like the Windows runtime.
 int digits_value(const char* digits) {
@@ -41,7 +41,7 @@ int KILNUTIL_is_str_has_exponent(const char* text) {
   if (text == nullptr) return 0;
   const char* mark = std::strpbrk(text, "EeD");
   if (mark == nullptr || (mark[1] != '+' && mark[1] != '-') || mark[2] == '\0') return 0;
-  return KILNUTIL_test_char(static_cast<unsigned char>(mark[2])) == kDigitClass ? 1 : 0;
+  return kiln::text::char_class(static_cast<unsigned char>(mark[2])) == kiln::text::kDigit ? 1 : 0;
 }
 
 int KILNUTIL_End_Number_ex(char* prefix, char* text, char** number_start, int mode) {

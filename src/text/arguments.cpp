@@ -1,5 +1,6 @@
 // Arguments and lists: KILNUTIL_extract_arg_pointers, the token lists,
 // multidimensional subscripts and token counts.
+#include "text/brackets.h"
 #include "text/exposed_search.h"
 #include "text/strchr.h"
 #include "text/token_list.h"
@@ -26,7 +27,7 @@ char* last_char_of(char* text) {
 int KILNUTIL_extract_arg_pointers(char* text, char** name, char** args, char* closer) {
   if (text == nullptr || *text == '\0') return 0;
   if (closer == nullptr) closer = last_char_of(text);
-  char* opener = KILNUTIL_find_matching_opening_paranthesis_ex(text, closer, kNoAngleBrackets, nullptr);
+  char* opener = find_matching_opener(text, closer, kNoAngleBrackets, nullptr);
   if (opener == nullptr) return 0;
   *opener = '\0';
   char* inside = opener + 1;

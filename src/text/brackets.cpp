@@ -1,10 +1,12 @@
 // Matching brackets: the closer of an already open "(" or "{", the opener of
 // a given closer, and the mismatch counters.
+#include "text/brackets.h"
+
 #include "text/exposed_search.h"
 
 #include <kilnutil/text.h>
 
-using namespace kiln::text;
+namespace kiln::text {
 
 namespace {
 
@@ -12,7 +14,7 @@ constexpr int kNoCloser = 1;
 
 int unclosed_quote_code(unsigned quote) { return quote == '\'' ? 2 : 3; }
 
-const char* find_closer(const char* text, unsigned open, unsigned close, int* error) {
+const char* closer_of_open_pair(const char* text, unsigned open, unsigned close, int* error) {
   int code = 0;
   const char* result = nullptr;
   const bool escapes = escape_switch() == 0;
@@ -97,24 +99,15 @@ void store(char** position, const char* p) {
 
 }  // namespace
 
-char* KILNUTIL_find_end_parenthesis(const char* text, int* error) {
+const char* find_closer(const char* text, unsigned open, unsigned close, int* error) {
   if (text == nullptr) {
     if (error != nullptr) *error = kNoCloser;
     return nullptr;
   }
-  return mutable_pos(find_closer(text, '(', ')', error));
+  return closer_of_open_pair(text, open, close, error);
 }
 
-char* KILNUTIL_find_end_curly_brace(const char* text, int* error) {
-  if (text == nullptr) {
-    if (error != nullptr) *error = kNoCloser;
-    return nullptr;
-  }
-  return mutable_pos(find_closer(text, '{', '}', error));
-}
-
-char* KILNUTIL_find_matching_opening_paranthesis_ex(const char* start, const char* closer, unsigned int flags,
-                                                    int* colon_flag) {
+char* find_matching_opener(const char* start, const char* closer, unsigned flags, int* colon_flag) {
   if (start == nullptr || closer == nullptr) return nullptr;
   const int pair = standalone_closer(static_cast<unsigned char>(*closer));
   if (pair == 0) return nullptr;
@@ -135,7 +128,7 @@ char* KILNUTIL_find_matching_opening_paranthesis_ex(const char* start, const cha
   }
 }
 
-int KILNUTIL_count_bracket_mismatch(const char* text, char** position, int open, int close, unsigned int flags) {
+int count_bracket_mismatch(const char* text, char** position, int open, int close, unsigned flags) {
   store(position, nullptr);
   if (text == nullptr) return 0;
   MismatchWalk walk;
@@ -164,11 +157,7 @@ int KILNUTIL_count_bracket_mismatch(const char* text, char** position, int open,
   return code;
 }
 
-int KILNUTIL_count_parenthesis_mismatch_ex(const char* text, char** position, unsigned int flags) {
-  return KILNUTIL_count_bracket_mismatch(text, position, '(', ')', flags);
-}
-
-int KILNUTIL_count_quote_mismatch(const char* text, char** position) {
+int count_quote_mismatch(const char* text, char** position) {
   store(position, nullptr);
   if (text == nullptr) return 0;
   const bool escapes = escape_switch() == 0;
@@ -200,3 +189,34 @@ int KILNUTIL_count_quote_mismatch(const char* text, char** position) {
   if (code != 0) store(position, where);
   return code;
 }
+
+}  // namespace kiln::text
+
+extern "C" {
+
+char* KILNUTIL_find_end_parenthesis(const char* text, int* error) {
+  return kiln::text::mutable_pos(kiln::text::find_closer(text, '(', ')', error));
+}
+
+char* KILNUTIL_find_end_curly_brace(const char* text, int* error) {
+  return kiln::text::mutable_pos(kiln::text::find_closer(text, '{', '}', error));
+}
+
+char* KILNUTIL_find_matching_opening_paranthesis_ex(const char* start, const char* closer, unsigned int flags,
+                                                    int* colon_flag) {
+  return kiln::text::find_matching_opener(start, closer, flags, colon_flag);
+}
+
+int KILNUTIL_count_bracket_mismatch(const char* text, char** position, int open, int close, unsigned int flags) {
+  return kiln::text::count_bracket_mismatch(text, position, open, close, flags);
+}
+
+int KILNUTIL_count_parenthesis_mismatch_ex(const char* text, char** position, unsigned int flags) {
+  return kiln::text::count_bracket_mismatch(text, position, '(', ')', flags);
+}
+
+int KILNUTIL_count_quote_mismatch(const char* text, char** position) {
+  return kiln::text::count_quote_mismatch(text, position);
+}
+
+}  // extern "C"

@@ -1,18 +1,20 @@
 // Stripping one enclosing pair ("(" ")", "{" "}", double quotes, "[" "]")
 // off a term, in place.
+#include "text/enclosing_pairs.h"
+
 #include "text/exposed_search.h"
 #include "text/trim.h"
 
 #include <kilnutil/text.h>
 
-using namespace kiln::text;
+namespace kiln::text {
 
 namespace {
 
-constexpr unsigned kTrimLeading = 0x1;
-constexpr unsigned kCloserAnywhere = 0x2;
-constexpr unsigned kCutLastCloser = 0x1000;
-constexpr unsigned kSearchFlagBits = 0xFF000000;
+constexpr unsigned kTrimLeading = KILNUTIL_INSIDE_TRIM_LEADING;
+constexpr unsigned kCloserAnywhere = KILNUTIL_INSIDE_CLOSER_ANYWHERE;
+constexpr unsigned kCutLastCloser = KILNUTIL_INSIDE_CUT_LAST_CLOSER;
+constexpr unsigned kSearchFlagBits = KILNUTIL_INSIDE_SEARCH_FLAG_BITS;
 
 constexpr int kKindCutLastCloser = -1;
 constexpr int kKindCloserOnly = -2;
@@ -29,7 +31,7 @@ char* last_char(char* text) {
 
 }  // namespace
 
-char* KILNUTIL_str_inside_ex(char* text, unsigned int options, int* kind) {
+char* str_inside(char* text, unsigned options, int* kind) {
   int own_kind = 0;
   if (kind == nullptr) kind = &own_kind;
   *kind = 0;
@@ -59,22 +61,18 @@ char* KILNUTIL_str_inside_ex(char* text, unsigned int options, int* kind) {
   return p;
 }
 
-char* KILNUTIL_str_inside(char* text, unsigned int options) { return KILNUTIL_str_inside_ex(text, options, nullptr); }
-
-char* KILNUTIL_text_inside_remove_quotes_ex(char* text, int* removed, unsigned int options) {
+char* remove_enclosing_pairs(char* text, int* removed, unsigned options) {
   if (removed != nullptr) *removed = 0;
   int kind = 0;
   do {
-    text = KILNUTIL_str_inside_ex(text, options | kTrimLeading, &kind);
+    text = str_inside(text, options | kTrimLeading, &kind);
     if (kind >= 1 && removed != nullptr) *removed = 1;
   } while (kind >= 1);
   return text;
 }
 
-char* KILNUTIL_text_inside_remove_quotes(char* text, int* removed) {
-  return KILNUTIL_text_inside_remove_quotes_ex(text, removed, 0);
+char* remove_enclosing_pairs_even_mismatch(char* text, int* removed) {
+  return remove_enclosing_pairs(text, removed, kTrimLeading | kCutLastCloser);
 }
 
-char* KILNUTIL_text_inside_remove_quotes_even_mismatch(char* text, int* removed) {
-  return KILNUTIL_text_inside_remove_quotes_ex(text, removed, kTrimLeading | kCutLastCloser);
-}
+}  // namespace kiln::text

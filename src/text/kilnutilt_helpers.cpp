@@ -2,6 +2,7 @@
 // stepping: the last character, upper-casing, bounded copy and length.
 #include "platform/case_mapping.h"
 #include "text/chars.h"
+#include "unicode/utf8_case.h"
 
 #include <kilnutil/frame.h>
 #include <kilnutil/unicode.h>
@@ -50,7 +51,7 @@ KILN_WCHAR* KILNUTILT::GetLastChar(KILN_WCHAR* p) {
 
 char* KILNUTILT::CharUpper_(char* p) {
   if (p == nullptr) return nullptr;
-  KILNUTIL_UNICODE_UTF8_to_upper_or_to_lower(p, 0, 0, 0);
+  kiln::unicode::change_case_in_place(p, false, 0);
   return p;
 }
 

@@ -1,6 +1,7 @@
 // KILNUTIL_separate_one_statement: statements end at an exposed ";", at a
 // label colon, or with a brace block (and the blocks joined to it by commas).
 #include "text/char_set.h"
+#include "text/brackets.h"
 #include "text/exposed_search.h"
 #include "text/trim.h"
 
@@ -52,7 +53,7 @@ char* block_end(char* p, bool* unclosed) {
   const char* open = exposed_char(p, '{', 0);
   if (open == nullptr) return nullptr;
   for (;;) {
-    const char* close = KILNUTIL_find_end_curly_brace(open + 1, nullptr);
+    const char* close = find_closer(open + 1, '{', '}', nullptr);
     if (close == nullptr) {
       *unclosed = true;
       return nullptr;

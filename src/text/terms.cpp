@@ -1,6 +1,7 @@
 // Terms: KILNUTIL_separate_one_term, KILNUTIL_get_preceeding_term and
 // KILNUTIL_get_remaining_term.
 #include "text/char_set.h"
+#include "text/enclosing_pairs.h"
 #include "text/strchr.h"
 #include "text/exposed_search.h"
 #include "text/trim.h"
@@ -32,7 +33,7 @@ bool only_spaces_between(const char* from, const char* to) {
   return true;
 }
 
-char* trimmed_inside(char* text) { return KILNUTIL_text_inside_remove_quotes(trim_both(text), nullptr); }
+char* trimmed_inside(char* text) { return remove_enclosing_pairs(trim_both(text), nullptr, 0); }
 
 char* first_non_space_or_null(const char* p) {
   p = skip_spaces(p);

@@ -27,7 +27,7 @@ inline constexpr unsigned encoding_family(unsigned code) { return code & 0xFF; }
 inline constexpr unsigned kGuessAllowed = 1;
 inline constexpr unsigned kGuessZeroPairRulesOutUtf16 = 4;
 // Bit of a detector's flags argument: look at the mark only.
-inline constexpr int kDetectMarkOnly = 1;
+inline constexpr int kDetectMarkOnly = KILNUTIL_DETECT_MARK_ONLY;
 
 // Whether a detector call with these flags may look beyond the mark.
 bool guessing_allowed(int flags);
@@ -59,5 +59,7 @@ unsigned detect_encoding(const unsigned char* bytes, size_t count, int flags);
 // Detection over the first bytes of a stream (max_bytes 0: all of it, 4 when
 // only the mark counts); the stream's position is restored.
 unsigned detect_stream_encoding(FILE* stream, unsigned max_bytes, int flags);
+// The same over the first bytes of a file; kEncodingNone when it can't be opened.
+unsigned detect_file_encoding(const char* path, unsigned max_bytes, int flags);
 
 }  // namespace kiln::unicode

@@ -53,8 +53,7 @@ int KILNUTIL_DetectEncoding_GetSet_BufferSize(int set, double* value, int kind) 
 }
 
 unsigned int KILNUTIL_DetectEncoding_GetBufSizeFromFilePath(const char* path) {
-  double count = 0;
-  KILNUTIL_DetectEncoding_GetSet_BufferSize(0, &count, kind_of_path(path));
-  // Truncated to the low 32 bits of the count.
+  // The count as the getter hands it out (a double), truncated to 32 bits.
+  const auto count = static_cast<double>(g_detect_buffer_sizes[kind_of_path(path)].load());
   return static_cast<unsigned>(to_unsigned_64(count));
 }

@@ -54,6 +54,15 @@ unsigned detect_stream_encoding(FILE* stream, unsigned max_bytes, int flags) {
   return code;
 }
 
+unsigned detect_file_encoding(const char* path, unsigned max_bytes, int flags) {
+  if (path == nullptr) return kEncodingNone;
+  FILE* stream = std::fopen(path, "rb");
+  if (stream == nullptr) return kEncodingNone;
+  const unsigned code = detect_stream_encoding(stream, max_bytes, flags);
+  std::fclose(stream);
+  return code;
+}
+
 }  // namespace kiln::unicode
 
 unsigned int KILNUTIL_DetectEncoding(FILE* stream, unsigned int max_bytes, int flags) {
@@ -61,10 +70,5 @@ unsigned int KILNUTIL_DetectEncoding(FILE* stream, unsigned int max_bytes, int f
 }
 
 unsigned int KILNUTIL_DetectEncodingFile(const char* path, unsigned int max_bytes, int flags) {
-  if (path == nullptr) return kiln::unicode::kEncodingNone;
-  FILE* stream = std::fopen(path, "rb");
-  if (stream == nullptr) return kiln::unicode::kEncodingNone;
-  const unsigned code = kiln::unicode::detect_stream_encoding(stream, max_bytes, flags);
-  std::fclose(stream);
-  return code;
+  return kiln::unicode::detect_file_encoding(path, max_bytes, flags);
 }

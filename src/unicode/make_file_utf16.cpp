@@ -71,7 +71,7 @@ static int make_file_utf16(const std::string& path) {
     make_folders_for(path);
     return write_mark_only(path) ? 1 : 0;
   }
-  const unsigned family = encoding_family(KILNUTIL_DetectEncodingFile(path.c_str(), 0, kDetectMarkOnly));
+  const unsigned family = encoding_family(detect_file_encoding(path.c_str(), 0, kDetectMarkOnly));
   if (family == kEncodingUtf16Le) return 0;
   FILE* stream = std::fopen(path.c_str(), "rb");
   if (stream == nullptr) return 0;

@@ -1,4 +1,6 @@
 // In-place case change of a UTF-8 string (or of one UTF-16 character).
+#include "unicode/utf8_case.h"
+
 #include "platform/case_mapping.h"
 #include "platform/codepage.h"
 #include "unicode/utf16_scratch.h"
@@ -32,6 +34,20 @@ bool store_utf8(char* p, int capacity, const KILN_WCHAR* units, int count) {
 
 }  // namespace
 
+namespace kiln::unicode {
+
+char* change_case_in_place(char* p, bool to_lower, int len) {
+  const int n = static_cast<int>(std::strlen(p));
+  const int treated = (len >= 1 && len < n) ? len : n + 1;
+  kiln::unicode::Utf16Scratch<4096> units(p, treated);  // 8,192 bytes on the stack
+  if (!units.ok() || units.size() == 0) return p;
+  change_case(units.data(), static_cast<unsigned>(units.size()), to_lower);
+  if (!store_utf8(p, treated < n + 1 ? treated : n + 1, units.data(), units.size())) p[n] = '\0';
+  return p;
+}
+
+}  // namespace kiln::unicode
+
 extern "C" char* KILNUTIL_UNICODE_UTF8_to_upper_or_to_lower(char* p, int to_lower, int is_char, int len) {
   const auto value = reinterpret_cast<std::uintptr_t>(p);
   if (is_char != 0 && value < 0x10000) {
@@ -40,11 +56,5 @@ extern "C" char* KILNUTIL_UNICODE_UTF8_to_upper_or_to_lower(char* p, int to_lowe
     change_case(character, 2, to_lower != 0);
     return reinterpret_cast<char*>(static_cast<std::uintptr_t>(character[0]));
   }
-  const int n = static_cast<int>(std::strlen(p));
-  const int treated = (len >= 1 && len < n) ? len : n + 1;
-  kiln::unicode::Utf16Scratch<4096> units(p, treated);  // 8,192 bytes on the stack
-  if (!units.ok() || units.size() == 0) return p;
-  change_case(units.data(), static_cast<unsigned>(units.size()), to_lower != 0);
-  if (!store_utf8(p, treated < n + 1 ? treated : n + 1, units.data(), units.size())) p[n] = '\0';
-  return p;
+  return kiln::unicode::change_case_in_place(p, to_lower != 0, len);
 }

@@ -13,6 +13,19 @@ const unsigned char* bytes(const char* s) { return reinterpret_cast<const unsign
 
 char* mutable_position(const char* p) { return const_cast<char*>(p); }
 
+// The first byte of the last character (null for an empty text) and its code
+// point (0 for an empty text). Walks back from the NUL, never before s.
+const char* last_character(const char* s, unsigned* cp) {
+  *cp = 0;
+  if (*s == '\0') return nullptr;
+  const char* end = s;
+  while (*end != '\0') ++end;
+  const char* last = kiln::unicode::utf8_go_back_within(end, s);
+  int length;
+  *cp = utf8_decode(bytes(last), &length);
+  return last;
+}
+
 }  // namespace
 
 extern "C" {
@@ -79,21 +92,15 @@ char* KILNUTIL_UNICODE_UTF8_ASSERT_VALID(const char* s) {
 }
 
 char* KILNUTIL_UTF8_get_ptr_to_last_char(const char* s, unsigned int* pch) {
-  if (*s == '\0') {
-    if (pch != nullptr) *pch = 0;
-    return nullptr;
-  }
-  const char* end = s;
-  while (*end != '\0') ++end;
-  // Walks back from the NUL, but never before the string's first byte.
-  const char* last = kiln::unicode::utf8_go_back_within(end, s);
-  if (pch != nullptr) *pch = KILNUTIL_UNICODE_UTF8_get_char(last);
+  unsigned cp = 0;
+  const char* last = last_character(s, &cp);
+  if (pch != nullptr) *pch = cp;
   return mutable_position(last);
 }
 
 unsigned int KILNUTIL_UTF8_get_last_char(const char* s) {
-  unsigned int cp = 0;
-  KILNUTIL_UTF8_get_ptr_to_last_char(s, &cp);
+  unsigned cp = 0;
+  last_character(s, &cp);
   return cp;
 }
 

@@ -102,7 +102,17 @@ TEST(DateInc, SnapIncrement) {
   const struct {
     double from, to;
     unsigned code;
-  } cases[] = {{6.5, 7.0, 16}, {-29, -31.0, 32}, {80, 91.0, 64}, {200, 200.0, 0}};
+  } cases[] = {{6.5, 7.0, 16},
+               {-29, -31.0, 32},
+               {80, 91.0, 64},
+               {200, 200.0, 0},
+               // the windows include their ends: a day round the week, a week round 31 days
+               {8, 7.0, 16},
+               {6, 7.0, 16},
+               {9, 9.0, 0},
+               {38, 31.0, 32},
+               {24, 31.0, 32},
+               {39, 39.0, 0}};
   for (const auto& c : cases) {
     unsigned code = 99;
     EXPECT_EQ(dateinc(KILNUTIL_DATEINC_SNAP_INCREMENT, c.from, 0, &code).second, c.to);

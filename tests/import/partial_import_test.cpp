@@ -260,6 +260,18 @@ TEST(PartialQueries, SetAndSingleRange) {
   // 10 indices in periods of 3: 4 periods.
   EXPECT_EQ(std::vector<int>({first, last, blocks, skip}), std::vector<int>({2, 11, 4, 1}));
   EXPECT_TRUE(parts.IsSingleRange(nullptr, nullptr, nullptr, nullptr));
+  // Whole periods count once; a period of 0 or less (negative skip) makes
+  // one block per index.
+  const struct {
+    int begin, end, count, skip, blocks;
+  } periods[] = {{3, 11, 2, 1, 3}, {3, 12, 2, 1, 4}, {2, 2, 1, 0, 1}, {3, 12, 2, -2, 10}, {3, 12, 2, -5, 10}};
+  for (const auto& c : periods) {
+    ImportFilesPartialParts one;
+    ASSERT_TRUE(one.Set(c.begin, c.end, c.count, c.skip));
+    int n = 0;
+    EXPECT_TRUE(one.IsSingleRange(nullptr, &n, nullptr, nullptr)) << c.begin << ":" << c.end;
+    EXPECT_EQ(n, c.blocks) << c.begin << ":" << c.end << " " << c.count << "-" << c.skip;
+  }
 
   ImportFilesPartialPart part{};
   ASSERT_TRUE(parts.GetSingleRange(part, true));

@@ -31,8 +31,9 @@ TEST(CharConstants, AsciiCharAndSpecialInteger) {
     int code, value, error;
   };
   const Case cases[] = {
-      {"'a'", 1, 'a', 0}, {R"('\n')", 1, 10, 0}, {R"('\0')", 1, 0, 0},  {"'ab'", 1, -2, 0},
-      {"''", 1, -1, -1},  {"'a", 1, -1, -1},     {"'\xE9'", 1, -23, 0},  // sign-extended from a signed char
+      {"'a'", 1, 'a', 0},     {R"('\n')", 1, 10, 0}, {R"('\0')", 1, 0, 0},  {"'ab'", 1, -2, 0},
+      {"''", 1, -1, -1},      {"'a", 1, -1, -1},     {"'\xE9'", 1, -23, 0},  // sign-extended from a signed char
+      {"'\x80'", 1, -128, 0}, {"'\x7F'", 1, 127, 0},                         // the ends of the range a char holds
   };
   for (const Case& c : cases) {
     int value = 99;

@@ -107,6 +107,25 @@ TEST(CodePage, LeadBytesOnlyInDoubleBytePages) {
   for (int b = 0; b < 256; ++b) EXPECT_FALSE(kiln::platform::is_lead_byte(1252, static_cast<unsigned char>(b)));
 }
 
+// The first and last lead byte of each double-byte page, and the bytes just
+// outside; the set of pages that have a converter.
+TEST(CodePage, LeadByteRangeEndsAndSupportedPages) {
+  const struct {
+    unsigned cp;
+    unsigned char byte;
+    bool lead;
+  } cases[] = {
+      {932, 0x80, false}, {932, 0x81, true},  {932, 0x9F, true}, {932, 0xDF, false}, {932, 0xFC, true},
+      {932, 0xFD, false}, {936, 0x80, false}, {936, 0x81, true}, {949, 0xFE, true},  {950, 0x80, false},
+  };
+  for (const auto& c : cases)
+    EXPECT_EQ(kiln::platform::is_lead_byte(c.cp, c.byte), c.lead) << c.cp << " " << int{c.byte};
+  for (unsigned cp : kCodePages) EXPECT_TRUE(kiln::platform::is_code_page_supported(cp)) << cp;
+  for (unsigned cp : {10000u, 20127u, 28591u, 20866u, 54936u})
+    EXPECT_TRUE(kiln::platform::is_code_page_supported(cp)) << cp;
+  for (unsigned cp : {12345u, 4u, 99999u}) EXPECT_FALSE(kiln::platform::is_code_page_supported(cp)) << cp;
+}
+
 TEST(CodePage, AnsiCodePageFollowsTheLocaleCodeset) {
   const std::string saved = std::setlocale(LC_ALL, nullptr);
   std::setlocale(LC_ALL, "C");

@@ -1,6 +1,10 @@
+#include "text/reference_exposed_search.h"
 #include "text/text_test_support.h"
 
 #include <gtest/gtest.h>
+
+#include <random>
+#include <string>
 
 using namespace text_test;
 
@@ -158,4 +162,23 @@ TEST(ExposedDerived, FromEndPairAndWord) {
   EXPECT_EQ(offset(inside, KILNUTIL_exposed_word_pos(inside, "sin", 0x2000)), 1);
   EXPECT_EQ(KILNUTIL_exposed_word_pos("\"sin\" sin2", "sin", 0), nullptr);
   EXPECT_EQ(KILNUTIL_exposed_word_pos("sin", "", 0), nullptr);
+}
+
+// Random texts over the characters that matter, against the plain reference:
+// every target, numbers not skipped, escapes honoured.
+TEST(ExposedSearch, AgreesWithThePlainReference) {
+  static const char kAlphabet[] = "ab ,;(){}[]\"'\\\t<>";
+  std::mt19937 random(12345);
+  for (int round = 0; round < 4000; ++round) {
+    std::string text(random() % 24, ' ');
+    for (char& c : text) c = kAlphabet[random() % (sizeof kAlphabet - 1)];
+    for (const int target : std::initializer_list<int>{',', ';', 0, '"', ')', ']', 'a', '\''}) {
+      int expected_status = 9, status = 9;
+      const char* expected = reference::exposed_search(text.c_str(), target, &expected_status);
+      const char* found =
+          KILNUTIL_exposed_char_pos_ex_loc_ex(text.c_str(), target, KILNUTIL_EXPOSED_KEEP_NUMBERS, &status, 0, nullptr);
+      ASSERT_EQ(offset(text.c_str(), found), offset(text.c_str(), expected)) << "[" << text << "] " << target;
+      ASSERT_EQ(status, expected_status) << "[" << text << "] " << target;
+    }
+  }
 }

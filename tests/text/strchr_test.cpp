@@ -65,6 +65,12 @@ TEST(StrChr, Utf8WalkKeepsMultiByteCharactersWhole) {
     EXPECT_EQ(find("\xC3\xA9x\xC3\xA9", 0xE9, 3), 3);
     EXPECT_EQ(find("\xC3\xA9", 0xC9, 0x21), 0);  // the other case of a non-ASCII letter
   }
+  for (unsigned cp : {1200u, 1254u}) {  // the ends of the byte-walking range
+    Restore bytes = string_process_code_page(cp);
+    EXPECT_EQ(find(text, ',', 1), 1) << cp;
+  }
+  Restore beyond = string_process_code_page(1255);
+  EXPECT_EQ(find(text, ',', 1), 3);
   Restore western = string_process_code_page(1252);
   EXPECT_EQ(find(text, ',', 1), 1);
   EXPECT_EQ(find("\xC3\xA9", 0xE9, 1), -1);  // bytes, not characters

@@ -121,6 +121,28 @@ TEST(DetectGuess, SettingOffMeansMarksOnly) {
             257u);
 }
 
+// The zero-ratio test exactly at its thresholds: the share of zero bytes
+// among the odd (or even) positions must exceed 70% and the other share stay
+// below 10%. Bytes 0xFF keep the text from passing as UTF-8; no zero pairs
+// and no line ends leave the decision to the ratios.
+TEST(DetectUtf16, ZeroRatioThresholdsAreStrict) {
+  // Ten byte pairs: `odd` of them (0xFF, 0), `even` of them (0, 0xFF).
+  auto pairs = [](int odd, int even) {
+    std::string bytes;
+    for (int i = 0; i < 10; ++i)
+      bytes += i < odd ? std::string("\xFF\0", 2) : i < odd + even ? std::string("\0\xFF", 2) : "\xFF\xFF";
+    return bytes;
+  };
+  const struct {
+    int odd, even;
+    unsigned code;
+  } cases[] = {
+      {8, 0, KILNUTIL_ENCODING_UTF16LE}, {7, 0, KILNUTIL_ENCODING_CODE_PAGE}, {8, 1, KILNUTIL_ENCODING_CODE_PAGE},
+      {0, 8, KILNUTIL_ENCODING_UTF16BE}, {0, 7, KILNUTIL_ENCODING_CODE_PAGE}, {1, 8, KILNUTIL_ENCODING_CODE_PAGE},
+  };
+  for (const auto& c : cases) EXPECT_EQ(detect(pairs(c.odd, c.even)), c.code) << c.odd << " " << c.even;
+}
+
 TEST(DetectStream, RestoresThePositionAndReadsOnlyTheStart) {
   TempFolder folder;
   const std::string path = folder.file("mixed.txt");
@@ -142,6 +164,9 @@ TEST(DetectStream, RestoresThePositionAndReadsOnlyTheStart) {
              "\xEF\xBB\xBF"
              "a\xFF");
   EXPECT_EQ(KILNUTIL_DetectEncodingFile(path.c_str(), 0, 1), 257u);
+  // The big-endian UTF-32 mark takes all four bytes.
+  write_file(path, std::string("\0\0\xFE\xFF\0\0\0A", 8));
+  EXPECT_EQ(KILNUTIL_DetectEncodingFile(path.c_str(), 0, 1), KILNUTIL_ENCODING_UTF32BE | KILNUTIL_ENCODING_MARK);
 }
 
 TEST(DetectFile, FilesWrittenByIconvEmptyAndMissing) {

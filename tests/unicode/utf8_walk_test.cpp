@@ -142,6 +142,16 @@ TEST(Utf8Copy, WholeCharactersWithinTheBudget) {
   EXPECT_STREQ(out, "");
 }
 
+// One, two and three stray continuation bytes that start the string, behind a
+// byte the unbounded walk back would stop at: the walk stops at the string.
+TEST(Utf8LastChar, StrayContinuationBytesStopAtTheStringStart) {
+  for (int strays = 1; strays <= 3; ++strays) {
+    std::string buffer = "A" + std::string(static_cast<size_t>(strays), '\x80');
+    const char* s = buffer.c_str() + 1;
+    EXPECT_EQ(KILNUTIL_UTF8_get_ptr_to_last_char(s, nullptr), s) << strays;
+  }
+}
+
 TEST(Utf8LastChar, LastCharacterAndEmptyText) {
   unsigned int cp = 99;
   EXPECT_EQ(KILNUTIL_UTF8_get_ptr_to_last_char("", &cp), nullptr);
