@@ -27,8 +27,16 @@ struct Sample {
 
 const Sample& sample(int kind) {
   static const Sample samples[] = {
-      {1252, "CP1252", repeat_to_size("Caf\xE9 cr\xE8me br\xFBl\xE9" "e, na\xEF" "ve fa\xE7" "ade, \xFC" "ber Stra\xDF" "e: 21.5 \xB0" "C\r\n")},
-      {932, "CP932", repeat_to_size("\x93\xFA\x96\x7B\x8C\xEA\x82\xCC\x83\x65\x83\x4C\x83\x58\x83\x67\x81\x42 data 123\r\n")},
+      {1252, "CP1252",
+       repeat_to_size("Caf\xE9 cr\xE8me br\xFBl\xE9"
+                      "e, na\xEF"
+                      "ve fa\xE7"
+                      "ade, \xFC"
+                      "ber Stra\xDF"
+                      "e: 21.5 \xB0"
+                      "C\r\n")},
+      {932, "CP932",
+       repeat_to_size("\x93\xFA\x96\x7B\x8C\xEA\x82\xCC\x83\x65\x83\x4C\x83\x58\x83\x67\x81\x42 data 123\r\n")},
   };
   return samples[kind];
 }
@@ -42,7 +50,8 @@ void BM_MbcsToUtf8Library(benchmark::State& state) {
   const Sample& s = sample(static_cast<int>(state.range(0)));
   std::vector<char> out(s.text.size() * 3 + 1);
   for (auto _ : state) {
-    const int n = KILNUTIL_UNICODE_MBCS_to_UTF8(s.text.c_str(), -1, out.data(), static_cast<int>(out.size()), s.code_page);
+    const int n =
+        KILNUTIL_UNICODE_MBCS_to_UTF8(s.text.c_str(), -1, out.data(), static_cast<int>(out.size()), s.code_page);
     if (n <= 0) state.SkipWithError("conversion failed");
     benchmark::DoNotOptimize(n);
   }

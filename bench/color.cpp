@@ -91,7 +91,9 @@ void BM_RgbToLab_PlainLoop(benchmark::State& state) {
   state.SetItemsProcessed(static_cast<long>(state.iterations() * kColors));
 }
 
-struct LabColor { double l, a, b; };
+struct LabColor {
+  double l, a, b;
+};
 const std::vector<LabColor>& labs() {
   static const std::vector<LabColor> all = [] {
     std::vector<LabColor> made;
@@ -168,7 +170,8 @@ const std::vector<std::string>& texts() {
 int sscanf_color(const char* text) {
   unsigned r, g, b;
   const bool html = text[0] == '#';
-  const int read = html ? std::sscanf(text, "#%02X%02X%02X", &r, &g, &b) : std::sscanf(text, "RGB(%u,%u,%u)", &r, &g, &b);
+  const int read =
+      html ? std::sscanf(text, "#%02X%02X%02X", &r, &g, &b) : std::sscanf(text, "RGB(%u,%u,%u)", &r, &g, &b);
   return read == 3 ? static_cast<int>((r & 0xFF) | (g & 0xFF) << 8 | (b & 0xFF) << 16 | 0x01000000) : 0;
 }
 

@@ -23,7 +23,8 @@ const std::string& sample(int kind) {
       repeat_to_size("The quick brown fox jumps over the lazy dog; x = sin(t) * 2.5e-3 + col(A)[i];\n"),
       // ASCII-heavy: one accented letter in a line of English.
       repeat_to_size("Measured at the caf\xC3\xA9 on the 3rd, 21.5 degrees, 1013 hPa, wind 4 m/s from west.\n"),
-      repeat_to_size("\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E\xE3\x81\xAE\xE3\x83\x86\xE3\x82\xAD\xE3\x82\xB9\xE3\x83\x88\xE3\x80\x82"),
+      repeat_to_size("\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E\xE3\x81\xAE\xE3\x83\x86\xE3\x82\xAD\xE3\x82\xB9\xE3\x83\x88"
+                     "\xE3\x80\x82"),
   };
   return texts[kind];
 }

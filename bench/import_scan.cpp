@@ -21,7 +21,8 @@ const std::string& table() {
   static const std::string text = [] {
     std::string t;
     t.reserve(kTextBytes + 128);
-    t += "time,station,temperature_\xC2\xB0" "C,humidity_%,note\n";
+    t += "time,station,temperature_\xC2\xB0"
+         "C,humidity_%,note\n";
     const char* stations[] = {"\xC3\x85lesund", "M\xC3\xBCnchen", "Bergen", "K\xC3\xB6ln"};
     for (unsigned i = 0; t.size() < kTextBytes; ++i) {
       char line[128];
@@ -58,8 +59,8 @@ void BM_MemchrLineCount(benchmark::State& state) {
   const std::string& text = table();
   for (auto _ : state) {
     long long lines = 1;
-    for (const char* p = text.data(); (p = static_cast<const char*>(std::memchr(p, '\n', text.data() + text.size() - p)));
-         ++p) {
+    for (const char* p = text.data();
+         (p = static_cast<const char*>(std::memchr(p, '\n', text.data() + text.size() - p))); ++p) {
       ++lines;
     }
     benchmark::DoNotOptimize(lines);
@@ -98,9 +99,8 @@ void BM_SeparateTokensA(benchmark::State& state) {
   std::string line;
   std::vector<char*> list(16);
   for (auto _ : state) {
-    benchmark::DoNotOptimize(over_lines(line, [&](std::string& text) {
-      return KILNUTIL_SeparateStrToTokensA(text.data(), list.data(), ',', 15);
-    }));
+    benchmark::DoNotOptimize(over_lines(
+        line, [&](std::string& text) { return KILNUTIL_SeparateStrToTokensA(text.data(), list.data(), ',', 15); }));
   }
   report_bytes(state);
 }

@@ -140,9 +140,8 @@ void BM_HopefullyFasterQuickSort(benchmark::State& state) {
 }
 template <std::size_t Size>
 void BM_MergeSort(benchmark::State& state) {
-  run_record_sort<Size>(state, [](auto& w) {
-    KILNUTIL_MergeSort(w.data(), 0, kRecords - 1, static_cast<int>(Size), compare_keys);
-  });
+  run_record_sort<Size>(
+      state, [](auto& w) { KILNUTIL_MergeSort(w.data(), 0, kRecords - 1, static_cast<int>(Size), compare_keys); });
 }
 template <std::size_t Size>
 void BM_Qsort(benchmark::State& state) {
@@ -161,9 +160,9 @@ void BM_StdStableSortRecords(benchmark::State& state) {
   });
 }
 
-#define KILN_RECORD_BENCH(name)                                  \
-  BENCHMARK_TEMPLATE(name, 16)->Unit(benchmark::kMillisecond);   \
-  BENCHMARK_TEMPLATE(name, 64)->Unit(benchmark::kMillisecond);   \
+#define KILN_RECORD_BENCH(name)                                \
+  BENCHMARK_TEMPLATE(name, 16)->Unit(benchmark::kMillisecond); \
+  BENCHMARK_TEMPLATE(name, 64)->Unit(benchmark::kMillisecond); \
   BENCHMARK_TEMPLATE(name, 256)->Unit(benchmark::kMillisecond)
 
 KILN_RECORD_BENCH(BM_HopefullyFasterQuickSort);

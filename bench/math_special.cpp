@@ -10,13 +10,13 @@
 #include <vector>
 
 #if __has_include(<boost/math/distributions/students_t.hpp>)
-#define KILNUTIL_BENCH_HAVE_BOOST_MATH 1
-#include <boost/math/distributions/chi_squared.hpp>
-#include <boost/math/distributions/fisher_f.hpp>
-#include <boost/math/distributions/normal.hpp>
-#include <boost/math/distributions/students_t.hpp>
-#include <boost/math/special_functions/beta.hpp>
-#include <boost/math/special_functions/erf.hpp>
+#  define KILNUTIL_BENCH_HAVE_BOOST_MATH 1
+#  include <boost/math/distributions/chi_squared.hpp>
+#  include <boost/math/distributions/fisher_f.hpp>
+#  include <boost/math/distributions/normal.hpp>
+#  include <boost/math/distributions/students_t.hpp>
+#  include <boost/math/special_functions/beta.hpp>
+#  include <boost/math/special_functions/erf.hpp>
 #endif
 
 namespace {
@@ -60,16 +60,24 @@ constexpr int kDf = 12;
 constexpr unsigned kDf1 = 5;
 constexpr unsigned kDf2 = 17;
 
-void Incbeta_Kilnutil(benchmark::State& s) { over_inputs(s, positions(), [](double x) { return incbeta(x, 3.5, 6.0); }); }
-void TCdf_Kilnutil(benchmark::State& s) { over_inputs(s, t_values(), [](double t) { return invt(t, kDf); }); }
-void TQuantile_Kilnutil(benchmark::State& s) { over_inputs(s, probabilities(), [](double p) { return tTable(p, kDf); }); }
+void Incbeta_Kilnutil(benchmark::State& s) {
+  over_inputs(s, positions(), [](double x) { return incbeta(x, 3.5, 6.0); });
+}
+void TCdf_Kilnutil(benchmark::State& s) {
+  over_inputs(s, t_values(), [](double t) { return invt(t, kDf); });
+}
+void TQuantile_Kilnutil(benchmark::State& s) {
+  over_inputs(s, probabilities(), [](double p) { return tTable(p, kDf); });
+}
 void FQuantile_Kilnutil(benchmark::State& s) {
   over_inputs(s, probabilities(), [](double p) { return Ftable(p, kDf1, kDf2); });
 }
 void ChisqQuantile_Kilnutil(benchmark::State& s) {
   over_inputs(s, probabilities(), [](double p) { return ChisqDist(p, kDf2); });
 }
-void NormalQuantile_Kilnutil(benchmark::State& s) { over_inputs(s, probabilities(), [](double p) { return invncp(p); }); }
+void NormalQuantile_Kilnutil(benchmark::State& s) {
+  over_inputs(s, probabilities(), [](double p) { return invncp(p); });
+}
 void InvErf_Kilnutil(benchmark::State& s) {
   over_inputs(s, probabilities(), [](double p) { return inverf(2 * p - 1); });
 }

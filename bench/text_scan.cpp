@@ -100,7 +100,8 @@ void BM_SplitStatements(benchmark::State& state) {
     }
   }
   set_bytes(state);
-  state.counters["statements"] = benchmark::Counter(static_cast<double>(statements), benchmark::Counter::kAvgIterations);
+  state.counters["statements"] =
+      benchmark::Counter(static_cast<double>(statements), benchmark::Counter::kAvgIterations);
 }
 BENCHMARK(BM_SplitStatements)->Unit(benchmark::kMillisecond);
 
@@ -110,7 +111,8 @@ BENCHMARK(BM_SplitStatements)->Unit(benchmark::kMillisecond);
 // a chain of calls reads the text once.
 void BM_SplitBraceFree(benchmark::State& state) {
   std::string text;
-  while (text.size() < static_cast<std::size_t>(state.range(0))) text += "x1 = sin(t[i]) * 2.5e-3 + \"a;b\"; n = n + 1;\n";
+  while (text.size() < static_cast<std::size_t>(state.range(0)))
+    text += "x1 = sin(t[i]) * 2.5e-3 + \"a;b\"; n = n + 1;\n";
   std::vector<char> buffer(text.size() + 1);
   for (auto _ : state) {
     std::memcpy(buffer.data(), text.c_str(), text.size() + 1);

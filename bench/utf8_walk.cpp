@@ -21,8 +21,13 @@ std::string repeat_to_size(const std::string& unit) {
 const std::string& sample(int kind) {
   static const std::string texts[] = {
       repeat_to_size("The quick brown fox jumps over the lazy dog; x = sin(t) * 2.5e-3 + col(A)[i];\n"),
-      repeat_to_size("Caf\xC3\xA9 cr\xC3\xA8me br\xC3\xBBl\xC3\xA9" "e, na\xC3\xAFve fa\xC3\xA7" "ade, \xC3\xBC" "ber Stra\xC3\x9F" "e. "),
-      repeat_to_size("\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E\xE3\x81\xAE\xE3\x83\x86\xE3\x82\xAD\xE3\x82\xB9\xE3\x83\x88\xE3\x80\x82"),
+      repeat_to_size("Caf\xC3\xA9 cr\xC3\xA8me br\xC3\xBBl\xC3\xA9"
+                     "e, na\xC3\xAFve fa\xC3\xA7"
+                     "ade, \xC3\xBC"
+                     "ber Stra\xC3\x9F"
+                     "e. "),
+      repeat_to_size("\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E\xE3\x81\xAE\xE3\x83\x86\xE3\x82\xAD\xE3\x82\xB9\xE3\x83\x88"
+                     "\xE3\x80\x82"),
       repeat_to_size("\xF0\x9F\x98\x80\xF0\x9F\x8E\x89\xF0\x9F\x9A\x80 "),
   };
   return texts[kind];

@@ -27,7 +27,8 @@ void mbcs_to_utf8_and_back(const char* text, int length, int code_page) {
   check(utf8[static_cast<size_t>(n)] == '\0');
   const int needed = KILNUTIL_UNICODE_UTF8_to_MBCS(utf8.data(), -1, nullptr, 0, code_page);
   std::vector<char> back(static_cast<size_t>(needed > 0 ? needed : 1));
-  const int written = KILNUTIL_UNICODE_UTF8_to_MBCS(utf8.data(), -1, back.data(), static_cast<int>(back.size()), code_page);
+  const int written =
+      KILNUTIL_UNICODE_UTF8_to_MBCS(utf8.data(), -1, back.data(), static_cast<int>(back.size()), code_page);
   check(n == 0 ? written == 1 : written == needed);
   IsUTF8StringConvertibleToCodePage(utf8.data(), static_cast<unsigned>(code_page));
 }
@@ -78,7 +79,8 @@ void growable(const char* text, int length, unsigned limit, int code_page) {
 // through UTF-16 step by step: the same bytes.
 void direct_matches_two_step(const char* text, int length, unsigned code_page) {
   std::string repeated;
-  while (repeated.size() < static_cast<size_t>(kiln::unicode::kDirectConversionMinimum)) repeated.append(text, static_cast<size_t>(length));
+  while (repeated.size() < static_cast<size_t>(kiln::unicode::kDirectConversionMinimum))
+    repeated.append(text, static_cast<size_t>(length));
   kiln::unicode::Scratch<char> direct;
   const int n = kiln::unicode::code_page_to_utf8_direct(code_page, repeated.c_str(), -1, direct);
   if (n < 0) return;
@@ -106,7 +108,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   utf8_to_utf16_and_back(text.get(), length);
   if (length > 0) {
-    for (unsigned code_page : {1252u, 1251u, 932u, 936u, 949u, 950u}) direct_matches_two_step(text.get(), length, code_page);
+    for (unsigned code_page : {1252u, 1251u, 932u, 936u, 949u, 950u})
+      direct_matches_two_step(text.get(), length, code_page);
   }
   return 0;
 }

@@ -17,9 +17,7 @@ namespace {
 
 using fuzz_support::check;
 
-bool is_defined_code(unsigned code) {
-  return code <= 3 || (code >= 0x101 && code <= 0x105) || code == 0x200;
-}
+bool is_defined_code(unsigned code) { return code <= 3 || (code >= 0x101 && code <= 0x105) || code == 0x200; }
 
 // The UTF-8 test written out one byte at a time.
 kiln::unicode::Utf8Verdict plain_utf8_verdict(const unsigned char* p, size_t n) {
@@ -28,7 +26,10 @@ kiln::unicode::Utf8Verdict plain_utf8_verdict(const unsigned char* p, size_t n) 
     const unsigned char lead = p[i++];
     if (lead == 0) return kiln::unicode::Utf8Verdict::kInvalid;
     if (lead < 0x80) continue;
-    const int expected = lead >= 0xC2 && lead <= 0xDF ? 1 : lead >= 0xE0 && lead <= 0xEF ? 2 : lead >= 0xF0 && lead <= 0xF4 ? 3 : -1;
+    const int expected = lead >= 0xC2 && lead <= 0xDF   ? 1
+                         : lead >= 0xE0 && lead <= 0xEF ? 2
+                         : lead >= 0xF0 && lead <= 0xF4 ? 3
+                                                        : -1;
     if (expected < 0) return kiln::unicode::Utf8Verdict::kInvalid;
     for (int k = 0; k < expected && i < n; ++k, ++i) {
       if ((p[i] & 0xC0) != 0x80) return kiln::unicode::Utf8Verdict::kInvalid;

@@ -35,7 +35,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::size_t prefix_length = std::strlen(prefix.get());
   check(prefix_length < prefix_size);
   check(std::memcmp(prefix.get(), text.get(), prefix_length) == 0);
-  if (mode < 1) check(prefix.get() + 0 != nullptr && prefix_length == static_cast<std::size_t>(number_start - text.get()));
+  if (mode < 1)
+    check(prefix.get() + 0 != nullptr && prefix_length == static_cast<std::size_t>(number_start - text.get()));
   for (const char* p = number_start; *p != '\0'; ++p) check(*p >= '0' && *p <= '9');
 
   KILNUTIL_End_Number_ex(nullptr, text.get(), nullptr, mode);

@@ -39,7 +39,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   {
     auto args = copy_of(text, length);
-    char* rest = is_str_numeric_integer_with_args(args.get(), &unsigned_value, size > 0 ? static_cast<char>(data[0]) : ':');
+    char* rest =
+        is_str_numeric_integer_with_args(args.get(), &unsigned_value, size > 0 ? static_cast<char>(data[0]) : ':');
     check(rest == nullptr || (rest >= args.get() && rest <= args.get() + length));
   }
   is_str_digits_only(text);

@@ -31,14 +31,17 @@ using Bytes = std::vector<unsigned char>;
 // Records as sorted strings of bytes: equal when the multisets agree.
 std::vector<Bytes> as_sorted_records(const Bytes& data, std::size_t size) {
   std::vector<Bytes> out;
-  for (std::size_t at = 0; at + size <= data.size(); at += size) out.emplace_back(data.begin() + static_cast<std::ptrdiff_t>(at), data.begin() + static_cast<std::ptrdiff_t>(at + size));
+  for (std::size_t at = 0; at + size <= data.size(); at += size)
+    out.emplace_back(data.begin() + static_cast<std::ptrdiff_t>(at),
+                     data.begin() + static_cast<std::ptrdiff_t>(at + size));
   std::sort(out.begin(), out.end());
   return out;
 }
 
 void check_sorted(const Bytes& data, std::size_t size, int count) {
   for (int i = 1; i < count; ++i) {
-    check(compare_records(&data[static_cast<std::size_t>(i - 1) * size], &data[static_cast<std::size_t>(i) * size]) <= 0);
+    check(compare_records(&data[static_cast<std::size_t>(i - 1) * size], &data[static_cast<std::size_t>(i) * size]) <=
+          0);
   }
 }
 
@@ -56,10 +59,12 @@ void sort_records(const Bytes& input, std::size_t size, int count) {
         const std::size_t companion_size = size % 7 + 1;
         Bytes companion(static_cast<std::size_t>(count) * companion_size);
         for (int i = 0; i < count; ++i) {
-          std::memset(&companion[static_cast<std::size_t>(i) * companion_size], work[static_cast<std::size_t>(i) * size], companion_size);
+          std::memset(&companion[static_cast<std::size_t>(i) * companion_size],
+                      work[static_cast<std::size_t>(i) * size], companion_size);
         }
         const KilnSortCompanion list[] = {{companion.data(), static_cast<int>(companion_size)}};
-        KILNUTIL_HopefullyFasterQuickSort_synchronized(work.data(), 0, count - 1, isize, compare_records_user, list, 1, 42);
+        KILNUTIL_HopefullyFasterQuickSort_synchronized(work.data(), 0, count - 1, isize, compare_records_user, list, 1,
+                                                       42);
         for (int i = 0; i < count; ++i) {
           check(companion[static_cast<std::size_t>(i) * companion_size] == work[static_cast<std::size_t>(i) * size]);
         }
@@ -86,7 +91,8 @@ void insert_records(const Bytes& input, std::size_t size, int count) {
   const int hi = count - 2;
   const int slot = KILNUITL_locate(sorted.data(), item.data(), 0, hi, static_cast<int>(size), 42, compare_records_user);
   check(slot >= 0 && slot <= hi + 1);
-  check(KILNUITL_insert_ordered(sorted.data(), item.data(), 0, hi, static_cast<int>(size), 42, compare_records_user) == slot);
+  check(KILNUITL_insert_ordered(sorted.data(), item.data(), 0, hi, static_cast<int>(size), 42, compare_records_user) ==
+        slot);
   check(std::memcmp(&sorted[static_cast<std::size_t>(slot) * size], item.data(), size) == 0);
   check(as_sorted_records(sorted, size) == as_sorted_records(input, size));
 }
@@ -116,7 +122,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   g_key_width = std::min<std::size_t>(data[1] % 9 + 1, record_size);
   const Bytes records(data + 2, data + size);
   const int count = static_cast<int>(records.size() / record_size);
-  const Bytes exact(records.begin(), records.begin() + static_cast<std::ptrdiff_t>(static_cast<std::size_t>(count) * record_size));
+  const Bytes exact(records.begin(),
+                    records.begin() + static_cast<std::ptrdiff_t>(static_cast<std::size_t>(count) * record_size));
   sort_records(exact, record_size, count);
   insert_records(exact, record_size, count);
   sort_column(data + 2, size - 2, data[1] & 1);

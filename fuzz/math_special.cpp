@@ -16,15 +16,27 @@ void check(bool condition) {
   if (!condition) std::abort();
 }
 
-constexpr double kSpecial[] = {
-    std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity(),
-    -std::numeric_limits<double>::infinity(), KILNUTIL_NANUM, std::numeric_limits<double>::denorm_min(),
-    0.0, -0.0, 1.0, -1.0, 0.5, 0.7, -0.7, 1e300, 4294967295.0, 2147483648.0, 1e-300};
+constexpr double kSpecial[] = {std::numeric_limits<double>::quiet_NaN(),
+                               std::numeric_limits<double>::infinity(),
+                               -std::numeric_limits<double>::infinity(),
+                               KILNUTIL_NANUM,
+                               std::numeric_limits<double>::denorm_min(),
+                               0.0,
+                               -0.0,
+                               1.0,
+                               -1.0,
+                               0.5,
+                               0.7,
+                               -0.7,
+                               1e300,
+                               4294967295.0,
+                               2147483648.0,
+                               1e-300};
 
 // Reads one double per call: 9 bytes, the first choosing a special value
 // (when below 0x80) or the raw bits of the next eight.
 class Doubles {
- public:
+public:
   Doubles(const std::uint8_t* data, std::size_t size) : data_(data), size_(size) {}
 
   double next() {
@@ -46,7 +58,7 @@ class Doubles {
     return bits;
   }
 
- private:
+private:
   const std::uint8_t* data_;
   std::size_t size_;
   std::size_t pos_ = 0;

@@ -25,9 +25,8 @@ struct Outputs {
 int parse(char* text, Outputs& out, bool second_name) {
   return second_name ? parse_data_range_str(text, out.parts[0].get(), out.parts[1].get(), out.parts[2].get(),
                                             out.parts[3].get(), out.parts[4].get(), out.parts[5].get())
-                     : KILNUTIL_parse_one_range_string(text, out.parts[0].get(), out.parts[1].get(),
-                                                       out.parts[2].get(), out.parts[3].get(), out.parts[4].get(),
-                                                       out.parts[5].get());
+                     : KILNUTIL_parse_one_range_string(text, out.parts[0].get(), out.parts[1].get(), out.parts[2].get(),
+                                                       out.parts[3].get(), out.parts[4].get(), out.parts[5].get());
 }
 
 }  // namespace

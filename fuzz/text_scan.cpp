@@ -60,7 +60,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   set_parenth_use_angle_brackets(prm.settings & 2);
   set_code_page_for_string_process(prm.settings & 4 ? 1252 : 65001);
   int saved_escapes = 0;
-  if (prm.settings & 8) KILNUTIL_exposed_char_pos_ex_loc_ex(nullptr, KILNUTIL_EXPOSED_SAVE_AND_DISABLE_ESCAPES, 0, &saved_escapes, 0, nullptr);
+  if (prm.settings & 8)
+    KILNUTIL_exposed_char_pos_ex_loc_ex(nullptr, KILNUTIL_EXPOSED_SAVE_AND_DISABLE_ESCAPES, 0, &saved_escapes, 0,
+                                        nullptr);
 
   int status = 0;
   const char* end = text + (length == 0 ? 0 : prm.end_offset % (length + 1));
@@ -107,6 +109,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     check(status == expected_status);
   }
 
-  if (prm.settings & 8) KILNUTIL_exposed_char_pos_ex_loc_ex(nullptr, KILNUTIL_EXPOSED_RESTORE_ESCAPES, 0, &saved_escapes, 0, nullptr);
+  if (prm.settings & 8)
+    KILNUTIL_exposed_char_pos_ex_loc_ex(nullptr, KILNUTIL_EXPOSED_RESTORE_ESCAPES, 0, &saved_escapes, 0, nullptr);
   return 0;
 }

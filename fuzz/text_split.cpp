@@ -19,7 +19,7 @@ using fuzz_support::check;
 
 // One exactly sized, writable copy of the input for each splitter.
 class Copy {
- public:
+public:
   Copy(const std::uint8_t* data, std::size_t size) : bytes_(new char[size + 1]), size_(size) {
     std::memcpy(bytes_.get(), data, size);
     bytes_[size] = '\0';
@@ -28,12 +28,14 @@ class Copy {
   // A position in the buffer (a NUL written by a cut included).
   void inside(const char* p) const { check(p == nullptr || (p >= bytes_.get() && p <= bytes_.get() + size_)); }
 
- private:
+private:
   std::unique_ptr<char[]> bytes_;
   std::size_t size_;
 };
 
-std::unique_ptr<char[]> destination_for(const char* text) { return std::unique_ptr<char[]>(new char[std::strlen(text) + 1]); }
+std::unique_ptr<char[]> destination_for(const char* text) {
+  return std::unique_ptr<char[]>(new char[std::strlen(text) + 1]);
+}
 
 void statements(const Copy& copy) {
   int guard = 0;

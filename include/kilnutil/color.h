@@ -30,7 +30,7 @@ typedef void* HDC;
 
 /* The colour list. */
 #define KILNUTIL_COLOR_LIST_CAPACITY 40
-#define KILNUTIL_COLOR_NAME_SIZE 28      /* 27 bytes of UTF-8 and the terminator */
+#define KILNUTIL_COLOR_NAME_SIZE 28 /* 27 bytes of UTF-8 and the terminator */
 #define KILNUTIL_COLOR_BUILTIN_COUNT 24
 #define KILNUTIL_COLOR_INDEX_LIMIT 99    /* color_index_to_rgb mode 0: larger indices give 0 */
 #define KILNUTIL_COLOR_EXTENSION_STEP 16 /* custom colours are added 16 at a time, white */
@@ -63,7 +63,7 @@ typedef void* HDC;
 #define KILNUTIL_COLOR_TEXT_HSL 0x20000u  /* "HSL(h,s,l)" written, "HSL(h,l,s)" read, 0-240 */
 
 /* KILNUTIL_vcolor_format flags. */
-#define KILNUTIL_COLOR_FORMAT_WITH_HTML 0x01000000u  /* name + " #RRGGBB"; "%u: > %d" past the list */
+#define KILNUTIL_COLOR_FORMAT_WITH_HTML 0x01000000u /* name + " #RRGGBB"; "%u: > %d" past the list */
 #define KILNUTIL_COLOR_FORMAT_RGB_OF_INDEX 0x10000000u
 #define KILNUTIL_COLOR_FORMAT_ONE_BASED 0x20000000u
 #define KILNUTIL_COLOR_FORMAT_CHECK_COUNT 0x40000000u
@@ -185,12 +185,12 @@ struct KILNUTIL_API IColorSpace {
   virtual void CopyTo(IColorSpace& target) = 0;
 };
 
-#define KILNUTIL_COLOR_SPACE_MEMBERS(Type)        \
-  Type();                                         \
-  ~Type() override;                               \
-  void FromRgb(const Rgb& rgb) override;          \
-  void ToRgb(Rgb& rgb) override;                  \
-  void CopyTo(IColorSpace& target) override
+#  define KILNUTIL_COLOR_SPACE_MEMBERS(Type) \
+    Type();                                  \
+    ~Type() override;                        \
+    void FromRgb(const Rgb& rgb) override;   \
+    void ToRgb(Rgb& rgb) override;           \
+    void CopyTo(IColorSpace& target) override
 
 struct KILNUTIL_API Rgb : IColorSpace {
   Rgb(double r_, double g_, double b_);
@@ -256,7 +256,7 @@ struct KILNUTIL_API Cmyk : IColorSpace {
   double c, m, y, k;
 };
 
-#undef KILNUTIL_COLOR_SPACE_MEMBERS
+#  undef KILNUTIL_COLOR_SPACE_MEMBERS
 
 /* The D65 white for the 2 degree observer, (95.047, 100, 108.883). */
 KILNUTIL_API extern Xyz WhiteReference;

@@ -24,25 +24,25 @@ KILNUTIL_API char* KILNUTIL_get_file_section_name(char* line);
  * compare without regard to ASCII case), which also sets *status and
  * *line_index (the 0-based line of its header, KILNUTIL_SECTION_NO_LINE when
  * none). */
-#define KILNUTIL_SECTION_OK 0          /* found (or an empty section: null) */
-#define KILNUTIL_SECTION_CANT_OPEN 1   /* the file can't be opened for reading */
-#define KILNUTIL_SECTION_NOT_FOUND 2   /* no section of that name */
+#define KILNUTIL_SECTION_OK 0        /* found (or an empty section: null) */
+#define KILNUTIL_SECTION_CANT_OPEN 1 /* the file can't be opened for reading */
+#define KILNUTIL_SECTION_NOT_FOUND 2 /* no section of that name */
 #define KILNUTIL_SECTION_NO_LINE 0xFFFFFFFFu
 #define KILNUTIL_SECTION_NO_CONVERSION 0x1 /* the file's bytes as they are, past a UTF-8 mark */
 #define KILNUTIL_SECTION_LINE_BYTES 1200   /* named reading's line buffer */
 KILNUTIL_API HGLOBAL KILNUTIL_GetFileSectionEx(const char* path, const char* name, unsigned int* status,
-                                              unsigned int* line_index, unsigned int flags);
+                                               unsigned int* line_index, unsigned int flags);
 KILNUTIL_API HGLOBAL KILNUTIL_GetFileSection(const char* path, const char* name, unsigned int* status);
 
 /* ---- Path syntax. 1 when the path is a valid absolute drive or UNC path
  * (*code, optional, receives the code below), else 0. */
 #define KILNUTIL_PATH_DRIVE 1
 #define KILNUTIL_PATH_UNC 2
-#define KILNUTIL_PATH_NOT_ABSOLUTE (-1)      /* neither "X:" nor two leading backslashes */
-#define KILNUTIL_PATH_BAD_SERVER (-2)        /* invalid UNC server name */
-#define KILNUTIL_PATH_BAD_CHARACTER (-3)     /* a forbidden character in the rest */
-#define KILNUTIL_PATH_DOUBLE_BACKSLASH (-4)  /* two consecutive backslashes in the rest */
-#define KILNUTIL_PATH_DRIVE_RELATIVE (-5)    /* "X:" without a backslash, yet one later */
+#define KILNUTIL_PATH_NOT_ABSOLUTE (-1)     /* neither "X:" nor two leading backslashes */
+#define KILNUTIL_PATH_BAD_SERVER (-2)       /* invalid UNC server name */
+#define KILNUTIL_PATH_BAD_CHARACTER (-3)    /* a forbidden character in the rest */
+#define KILNUTIL_PATH_DOUBLE_BACKSLASH (-4) /* two consecutive backslashes in the rest */
+#define KILNUTIL_PATH_DRIVE_RELATIVE (-5)   /* "X:" without a backslash, yet one later */
 KILNUTIL_API int KILNUTIL_IsPathValidSyntax(const char* path, int* code);
 /* Splits at the last ":" or backslash: folder (up to and including it), name
  * and (optional) extension from the last "." on. Returns folder when the path

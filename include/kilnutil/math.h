@@ -8,8 +8,8 @@
 #include "kilnutil/export.h"
 
 /* ---- The math error code (process-wide; most routines clear it on entry). */
-#define KILNUTIL_MATH_ERR_NONE 0u            /* no error */
-#define KILNUTIL_MATH_ERR_DOMAIN 1u          /* domain error or no convergence */
+#define KILNUTIL_MATH_ERR_NONE 0u             /* no error */
+#define KILNUTIL_MATH_ERR_DOMAIN 1u           /* domain error or no convergence */
 #define KILNUTIL_MATH_ERR_INVERF_PLUS_ONE 2u  /* inverse error function of +1 */
 #define KILNUTIL_MATH_ERR_INVERF_MINUS_ONE 3u /* inverse error function of -1 */
 
@@ -23,47 +23,46 @@ KILNUTIL_API unsigned int KILNUTIL_get_error_code(void);
  * they are not expected; inside an argument block they are doubles truncated
  * toward zero. A `_ptr` form writes its result through its pointer argument
  * (nothing for a null pointer) and always returns 0. */
-KILNUTIL_API double gammaln(double x);                      /* ln Gamma, five-term series */
-KILNUTIL_API double gammln_export(double x);                /* ln Gamma, six-term series */
+KILNUTIL_API double gammaln(double x);       /* ln Gamma, five-term series */
+KILNUTIL_API double gammln_export(double x); /* ln Gamma, six-term series */
 KILNUTIL_API int ln_gamma_export_ptr(double x, double* out);
-KILNUTIL_API double beta(double a, double b);               /* complete beta B(a, b) */
+KILNUTIL_API double beta(double a, double b);                                  /* complete beta B(a, b) */
 KILNUTIL_API int bico_export_ptr(unsigned int n, unsigned int k, double* out); /* n over k */
-KILNUTIL_API double incgamma(double x, double a);           /* P(a, x): x first */
-KILNUTIL_API double incbeta(double x, double a, double b);  /* I_x(a, b) */
-KILNUTIL_API double incomp_beta_export(const double* block); /* {x, a, b} */
+KILNUTIL_API double incgamma(double x, double a);                              /* P(a, x): x first */
+KILNUTIL_API double incbeta(double x, double a, double b);                     /* I_x(a, b) */
+KILNUTIL_API double incomp_beta_export(const double* block);                   /* {x, a, b} */
 KILNUTIL_API int incomp_beta_export_ptr(const double* block, double* out);
-KILNUTIL_API double error_func_export(double x);            /* erf */
+KILNUTIL_API double error_func_export(double x); /* erf */
 KILNUTIL_API int error_func_export_ptr(double* inout);
-KILNUTIL_API double inverf(double y);                       /* inverse erf */
+KILNUTIL_API double inverf(double y); /* inverse erf */
 KILNUTIL_API double inv_erf_export(double y);
-KILNUTIL_API double invncp(double p);                       /* normal quantile, AS 241 */
-KILNUTIL_API double invncp1(double p);                      /* normal quantile, sqrt(2) inverf(2p - 1) */
-KILNUTIL_API double invncp2(double p);                      /* normal quantile, Acklam */
-KILNUTIL_API double gauss_inv_export(double p);             /* invncp2 */
-KILNUTIL_API double prob(double x);                         /* erf(x / sqrt(2)) */
-KILNUTIL_API double cum_gauss_export(double x);             /* prob without the missing-value test */
+KILNUTIL_API double invncp(double p);           /* normal quantile, AS 241 */
+KILNUTIL_API double invncp1(double p);          /* normal quantile, sqrt(2) inverf(2p - 1) */
+KILNUTIL_API double invncp2(double p);          /* normal quantile, Acklam */
+KILNUTIL_API double gauss_inv_export(double p); /* invncp2 */
+KILNUTIL_API double prob(double x);             /* erf(x / sqrt(2)) */
+KILNUTIL_API double cum_gauss_export(double x); /* prob without the missing-value test */
 KILNUTIL_API int norm_prob_export_ptr(double x, double* out);
-KILNUTIL_API double invprob(double p);                      /* invncp2((p + 1) / 2) */
+KILNUTIL_API double invprob(double p); /* invncp2((p + 1) / 2) */
 KILNUTIL_API double inv_prob_export(double p);
 KILNUTIL_API int inv_prob_export_ptr(double p, double* out);
-KILNUTIL_API double KILNUTIL_cum_gauss_plus_one(double x);  /* 1 + erf(x / sqrt(2)) */
-KILNUTIL_API double KILNUTIL_cum_gauss(double x);           /* normal lower tail in percent */
-KILNUTIL_API double KILNUTIL_percent_prob(double pct);      /* normal quantile of pct percent */
-KILNUTIL_API double invt(double t, int df);                 /* Student t lower tail */
+KILNUTIL_API double KILNUTIL_cum_gauss_plus_one(double x); /* 1 + erf(x / sqrt(2)) */
+KILNUTIL_API double KILNUTIL_cum_gauss(double x);          /* normal lower tail in percent */
+KILNUTIL_API double KILNUTIL_percent_prob(double pct);     /* normal quantile of pct percent */
+KILNUTIL_API double invt(double t, int df);                /* Student t lower tail */
 KILNUTIL_API double probt(double t, int df);
-KILNUTIL_API double tTable(double p, int df);               /* Student t quantile */
-KILNUTIL_API double t_dist_export(const double* block);     /* {p, df}: coarse quantile */
+KILNUTIL_API double tTable(double p, int df);           /* Student t quantile */
+KILNUTIL_API double t_dist_export(const double* block); /* {p, df}: coarse quantile */
 KILNUTIL_API int t_dist_export_ptr(const double* block, double* out);
-KILNUTIL_API double invf(double f, int df1, int df2);       /* F lower tail */
+KILNUTIL_API double invf(double f, int df1, int df2);                     /* F lower tail */
 KILNUTIL_API double Ftable(double p, unsigned int df1, unsigned int df2); /* F quantile */
-KILNUTIL_API double F_dist_export(const double* block);     /* {p, df1, df2} */
+KILNUTIL_API double F_dist_export(const double* block);                   /* {p, df1, df2} */
 KILNUTIL_API int F_dist_export_ptr(const double* block, double* out);
-KILNUTIL_API double invchisq(double x, unsigned int df);    /* chi-square lower tail */
+KILNUTIL_API double invchisq(double x, unsigned int df);                        /* chi-square lower tail */
 KILNUTIL_API int chisquare_prob_Q_export_ptr(double* out, double x, double df); /* upper tail */
-KILNUTIL_API double ChisqDist(double p, unsigned int df);   /* chi-square quantile, -1 on failure */
-KILNUTIL_API double Chisqr_dist_export(const double* block); /* {p, df} */
+KILNUTIL_API double ChisqDist(double p, unsigned int df);                       /* chi-square quantile, -1 on failure */
+KILNUTIL_API double Chisqr_dist_export(const double* block);                    /* {p, df} */
 KILNUTIL_API int Chisqr_dist_export_ptr(const double* block, double* out);
-
 
 /* ---- Rounding, precision and comparison ---- */
 /* x rounded to n decimal places (n > 308: x unchanged) by the algorithm the
@@ -77,19 +76,19 @@ KILNUTIL_API unsigned char* IsRoundNewAlgorithm(void);
 /* Double to integer. nint, KILNUTIL_nint, nint2 clamp at the 32-bit range;
  * KILNUTIL_tint, KILNUTIL_nnint, KILNUTIL_last_nint, KILNUTIL_lnint at
  * +-2147483600; KILNUTIL_nint64 does not clamp. */
-KILNUTIL_API int nint(double x);               /* half away from zero */
-KILNUTIL_API int KILNUTIL_nint(double x);      /* same as nint */
-KILNUTIL_API int nint2(double x);              /* truncate, minus 1 when x < 0 */
+KILNUTIL_API int nint(double x);                  /* half away from zero */
+KILNUTIL_API int KILNUTIL_nint(double x);         /* same as nint */
+KILNUTIL_API int nint2(double x);                 /* truncate, minus 1 when x < 0 */
 KILNUTIL_API long long KILNUTIL_nint64(double x); /* half away from zero, 64-bit */
-KILNUTIL_API int KILNUTIL_tint(double x);      /* truncate toward zero */
-KILNUTIL_API int KILNUTIL_nnint(double x);     /* ceiling */
-KILNUTIL_API int KILNUTIL_last_nint(double x); /* floor tolerating 1e-10 */
-KILNUTIL_API int KILNUTIL_lnint(double x);     /* the same, in single precision */
+KILNUTIL_API int KILNUTIL_tint(double x);         /* truncate toward zero */
+KILNUTIL_API int KILNUTIL_nnint(double x);        /* ceiling */
+KILNUTIL_API int KILNUTIL_last_nint(double x);    /* floor tolerating 1e-10 */
+KILNUTIL_API int KILNUTIL_lnint(double x);        /* the same, in single precision */
 
 /* Remainders. A zero divisor sets code 1 and gives 0, 0, the missing value, x. */
-KILNUTIL_API int mod(int a, int b);                    /* sign of the dividend */
-KILNUTIL_API int mod2(int a, int b);                   /* sign of the divisor */
-KILNUTIL_API double rmod(double x, double y);          /* fmod: sign of the dividend */
+KILNUTIL_API int mod(int a, int b);                      /* sign of the dividend */
+KILNUTIL_API int mod2(int a, int b);                     /* sign of the divisor */
+KILNUTIL_API double rmod(double x, double y);            /* fmod: sign of the dividend */
 KILNUTIL_API double KILNUTIL_mrmod2(double x, double y); /* x - floor(x/y)*y */
 
 /* Tolerant comparison: op is one of these; 0 stores a as the tolerance. */
@@ -141,24 +140,23 @@ KILNUTIL_API double floor(double x);
 KILNUTIL_API double pow(double base, double exponent);
 #endif
 
-
 /* ---- Elementary function wrappers ---- */
 /* Outside its domain a wrapper gives the missing value; those marked "code 1"
  * also set the math error code to 1. An infinite result of cosh, sinh and tan
  * gives the missing value. None of them clears the error code. */
 #if defined(KILNUTIL_DECLARE_RUNTIME_NAMES)
-KILNUTIL_API double sqrt(double x);   /* x < 0: code 1 */
-KILNUTIL_API double log10(double x);  /* x <= 0: code 1 */
-KILNUTIL_API double log1p(double x);  /* x <= -1: code 1 */
+KILNUTIL_API double sqrt(double x);  /* x < 0: code 1 */
+KILNUTIL_API double log10(double x); /* x <= 0: code 1 */
+KILNUTIL_API double log1p(double x); /* x <= -1: code 1 */
 KILNUTIL_API double expm1(double x);
-KILNUTIL_API double acos(double x);   /* |x| > 1: code 1 */
-KILNUTIL_API double asin(double x);   /* |x| > 1: code 1 */
+KILNUTIL_API double acos(double x); /* |x| > 1: code 1 */
+KILNUTIL_API double asin(double x); /* |x| > 1: code 1 */
 KILNUTIL_API double cosh(double x);
 KILNUTIL_API double sinh(double x);
 KILNUTIL_API double tan(double x);
 KILNUTIL_API double asinh(double x);
-KILNUTIL_API double acosh(double x);  /* |x| < 1 or x <= -1: missing value */
-KILNUTIL_API double atanh(double x);  /* |x| >= 1: missing value */
+KILNUTIL_API double acosh(double x);           /* |x| < 1 or x <= -1: missing value */
+KILNUTIL_API double atanh(double x);           /* |x| >= 1: missing value */
 KILNUTIL_API double hypot(double x, double y); /* a negative leg: code 1 */
 #endif
 /* x <= 0: code 1, unless the non-positive-logarithm switch is on; then the
@@ -195,7 +193,6 @@ KILNUTIL_API unsigned int nUINT(double x);
 KILNUTIL_API int KILNUTIL_SetLnNonPositivePassThrough(int on);
 KILNUTIL_API int KILNUTIL_GetLnNonPositivePassThrough(void);
 
-
 /* ---- Random numbers ---- */
 /* One process-wide uniform generator (three congruential generators shuffled
  * through a 97-entry table) and a normal generator on it that draws deviates
@@ -209,7 +206,6 @@ KILNUTIL_API double gasdevex_export(int* seed, unsigned char reset);
 KILNUTIL_API int norm_dev_export_ptr(int seed, double* result);
 KILNUTIL_API double rnd(int n);
 KILNUTIL_API double grnd(int n);
-
 
 /* ---- Sorting and ordered insertion ---- */
 
@@ -262,8 +258,8 @@ KILNUTIL_API int KILNUITL_insert_ordered(void* base, const void* item, int lo, i
 #define KILNUTIL_INVERSE_MODE_IN_PLACE 0u /* a singular matrix is left partly transformed */
 #define KILNUTIL_INVERSE_MODE_COPY 1u     /* works on a copy; the input changes only on success */
 #define KILNUTIL_INVERSE_OK 0
-#define KILNUTIL_INVERSE_NO_ROOM 1   /* order above 128, or no memory for the copy */
-#define KILNUTIL_INVERSE_SINGULAR 3  /* a pivot below 10^-exponent */
+#define KILNUTIL_INVERSE_NO_ROOM 1  /* order above 128, or no memory for the copy */
+#define KILNUTIL_INVERSE_SINGULAR 3 /* a pivot below 10^-exponent */
 #define KILNUTIL_PIVOT_EXPONENT_GET 0
 #define KILNUTIL_PIVOT_EXPONENT_SET 1
 #define KILNUTIL_PIVOT_EXPONENT_DEFAULT 35.0
@@ -286,7 +282,6 @@ KILNUTIL_API double KILNUTIL_smith_y_real_space(double r, double x, unsigned cha
 KILNUTIL_API double KILNUTIL_smith_x_real_inv_space(double u, double v);
 KILNUTIL_API double KILNUTIL_smith_y_real_inv_space(double u, double v);
 
-
 /* ---- Script math function catalogue ---- */
 /* KilnMath_function(context, command, arguments, result, unit): the low 16
  * bits of command choose the operation; for the per-entry operations the
@@ -294,46 +289,44 @@ KILNUTIL_API double KILNUTIL_smith_y_real_inv_space(double u, double v);
  * arguments points to doubles (the name text for FIND, a 32-bit integer for
  * SEED); result to a double (an unsigned short index for FIND, a text buffer
  * of KILNUTIL_MATHFN_TEXT_SIZE chars for NAME, DESCRIPTION and HELP). */
-#define KILNUTIL_MATHFN_COMMAND(operation, index) \
-  ((operation) | ((index) * 0x10000u))
+#define KILNUTIL_MATHFN_COMMAND(operation, index) ((operation) | ((index)*0x10000u))
 
-#define KILNUTIL_MATHFN_FIND 0u         /* name -> index; returns the argument count or 0 */
-#define KILNUTIL_MATHFN_EVALUATE 1u     /* returns the math error code */
-#define KILNUTIL_MATHFN_ARG_COUNT 2u    /* returns the argument count of the entry */
-#define KILNUTIL_MATHFN_SEED 3u         /* non-zero: seed from the tick count, else 1 */
-#define KILNUTIL_MATHFN_IS_SEEDED 4u    /* returns 1 when the dispatcher's seed is not 1 */
-#define KILNUTIL_MATHFN_RND 10u         /* *arguments = rnd(trunc(*arguments)); normal reset */
-#define KILNUTIL_MATHFN_UNIFORM 11u     /* uniform deviate with the dispatcher's seed */
-#define KILNUTIL_MATHFN_NORMAL 12u      /* normal deviate with the dispatcher's seed */
-#define KILNUTIL_MATHFN_POISSON 15u     /* Poisson deviate with mean *arguments */
-#define KILNUTIL_MATHFN_PROB 20u        /* erf(x/sqrt 2); returns the math error code */
-#define KILNUTIL_MATHFN_QUANTILE 21u    /* normal quantile of p; returns the math error code */
-#define KILNUTIL_MATHFN_SIZE 25u        /* catalogue size with its end entry, as a double */
-#define KILNUTIL_MATHFN_NAME 26u        /* name of the entry */
-#define KILNUTIL_MATHFN_DESCRIPTION 27u /* one-line description of the entry */
-#define KILNUTIL_MATHFN_HELP 28u        /* help text of the entry */
-#define KILNUTIL_MATHFN_PREC 100u       /* prec(arguments[0], arguments[1]); returns the error code */
+#define KILNUTIL_MATHFN_FIND 0u             /* name -> index; returns the argument count or 0 */
+#define KILNUTIL_MATHFN_EVALUATE 1u         /* returns the math error code */
+#define KILNUTIL_MATHFN_ARG_COUNT 2u        /* returns the argument count of the entry */
+#define KILNUTIL_MATHFN_SEED 3u             /* non-zero: seed from the tick count, else 1 */
+#define KILNUTIL_MATHFN_IS_SEEDED 4u        /* returns 1 when the dispatcher's seed is not 1 */
+#define KILNUTIL_MATHFN_RND 10u             /* *arguments = rnd(trunc(*arguments)); normal reset */
+#define KILNUTIL_MATHFN_UNIFORM 11u         /* uniform deviate with the dispatcher's seed */
+#define KILNUTIL_MATHFN_NORMAL 12u          /* normal deviate with the dispatcher's seed */
+#define KILNUTIL_MATHFN_POISSON 15u         /* Poisson deviate with mean *arguments */
+#define KILNUTIL_MATHFN_PROB 20u            /* erf(x/sqrt 2); returns the math error code */
+#define KILNUTIL_MATHFN_QUANTILE 21u        /* normal quantile of p; returns the math error code */
+#define KILNUTIL_MATHFN_SIZE 25u            /* catalogue size with its end entry, as a double */
+#define KILNUTIL_MATHFN_NAME 26u            /* name of the entry */
+#define KILNUTIL_MATHFN_DESCRIPTION 27u     /* one-line description of the entry */
+#define KILNUTIL_MATHFN_HELP 28u            /* help text of the entry */
+#define KILNUTIL_MATHFN_PREC 100u           /* prec(arguments[0], arguments[1]); returns the error code */
 #define KILNUTIL_MATHFN_UNKNOWN 0xFFFFFFFFu /* result of an unknown command */
 
 #define KILNUTIL_MATHFN_UNIT_RADIANS 0u
 #define KILNUTIL_MATHFN_UNIT_DEGREES 1u
 #define KILNUTIL_MATHFN_UNIT_GRADIANS 2u
 
-#define KILNUTIL_MATHFN_FLAG_ANGLE_ARG 0x01u    /* the argument is an angle in the caller's unit */
-#define KILNUTIL_MATHFN_FLAG_ANGLE_RESULT 0x02u /* the result is an angle in the caller's unit */
-#define KILNUTIL_MATHFN_FLAG_NON_NEGATIVE 0x04u /* the argument must not be negative */
-#define KILNUTIL_MATHFN_FLAG_GENERAL 0x08u      /* category only */
-#define KILNUTIL_MATHFN_FLAG_POSITIVE 0x10u     /* the argument must be positive */
-#define KILNUTIL_MATHFN_FLAG_UNIT_RANGE 0x20u   /* the argument must lie in [-1, 1] */
+#define KILNUTIL_MATHFN_FLAG_ANGLE_ARG 0x01u      /* the argument is an angle in the caller's unit */
+#define KILNUTIL_MATHFN_FLAG_ANGLE_RESULT 0x02u   /* the result is an angle in the caller's unit */
+#define KILNUTIL_MATHFN_FLAG_NON_NEGATIVE 0x04u   /* the argument must not be negative */
+#define KILNUTIL_MATHFN_FLAG_GENERAL 0x08u        /* category only */
+#define KILNUTIL_MATHFN_FLAG_POSITIVE 0x10u       /* the argument must be positive */
+#define KILNUTIL_MATHFN_FLAG_UNIT_RANGE 0x20u     /* the argument must lie in [-1, 1] */
 #define KILNUTIL_MATHFN_FLAG_NO_DESCRIPTION 0x40u /* DESCRIPTION gives an empty text */
-#define KILNUTIL_MATHFN_FLAG_HYPERBOLIC 0x80u   /* category only */
+#define KILNUTIL_MATHFN_FLAG_HYPERBOLIC 0x80u     /* category only */
 
-#define KILNUTIL_MATHFN_COUNT 65         /* functions in the catalogue */
-#define KILNUTIL_MATHFN_TEXT_SIZE 520    /* chars of a NAME/DESCRIPTION/HELP buffer */
+#define KILNUTIL_MATHFN_COUNT 65      /* functions in the catalogue */
+#define KILNUTIL_MATHFN_TEXT_SIZE 520 /* chars of a NAME/DESCRIPTION/HELP buffer */
 
 KILNUTIL_API unsigned int KilnMath_function(void* context, unsigned int command, void* arguments, void* result,
                                             unsigned short unit);
-
 
 KILNUTIL_END_C
 

@@ -7,7 +7,6 @@
 
 #include <kilnutil/color.h>
 
-
 namespace kiln::color {
 
 namespace {

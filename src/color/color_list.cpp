@@ -17,14 +17,30 @@ constexpr std::uint32_t rgb(unsigned red, unsigned green, unsigned blue) { retur
 
 // The built-in list: what the list holds at load and what restore brings back.
 constexpr std::array<ColorEntry, KILNUTIL_COLOR_BUILTIN_COUNT> kBuiltinColors{{
-    {"Black", rgb(0, 0, 0)},          {"Red", rgb(255, 0, 0)},         {"Green", rgb(0, 255, 0)},
-    {"Blue", rgb(0, 0, 255)},         {"Cyan", rgb(0, 255, 255)},      {"Magenta", rgb(255, 0, 255)},
-    {"Yellow", rgb(255, 255, 0)},     {"Dark Yellow", rgb(128, 128, 0)}, {"Navy", rgb(0, 0, 128)},
-    {"Purple", rgb(128, 0, 128)},     {"Wine", rgb(128, 0, 0)},        {"Olive", rgb(0, 128, 0)},
-    {"Dark Cyan", rgb(0, 128, 128)},  {"Royal", rgb(0, 0, 160)},       {"Orange", rgb(255, 128, 0)},
-    {"Violet", rgb(128, 0, 255)},     {"Pink", rgb(255, 0, 128)},      {"White", rgb(255, 255, 255)},
-    {"LT Gray", rgb(192, 192, 192)},  {"Gray", rgb(128, 128, 128)},    {"LT Yellow", rgb(255, 255, 128)},
-    {"LT Cyan", rgb(128, 255, 255)},  {"LT Magenta", rgb(255, 128, 255)}, {"Dark Gray", rgb(64, 64, 64)},
+    {"Black", rgb(0, 0, 0)},
+    {"Red", rgb(255, 0, 0)},
+    {"Green", rgb(0, 255, 0)},
+    {"Blue", rgb(0, 0, 255)},
+    {"Cyan", rgb(0, 255, 255)},
+    {"Magenta", rgb(255, 0, 255)},
+    {"Yellow", rgb(255, 255, 0)},
+    {"Dark Yellow", rgb(128, 128, 0)},
+    {"Navy", rgb(0, 0, 128)},
+    {"Purple", rgb(128, 0, 128)},
+    {"Wine", rgb(128, 0, 0)},
+    {"Olive", rgb(0, 128, 0)},
+    {"Dark Cyan", rgb(0, 128, 128)},
+    {"Royal", rgb(0, 0, 160)},
+    {"Orange", rgb(255, 128, 0)},
+    {"Violet", rgb(128, 0, 255)},
+    {"Pink", rgb(255, 0, 128)},
+    {"White", rgb(255, 255, 255)},
+    {"LT Gray", rgb(192, 192, 192)},
+    {"Gray", rgb(128, 128, 128)},
+    {"LT Yellow", rgb(255, 255, 128)},
+    {"LT Cyan", rgb(128, 255, 255)},
+    {"LT Magenta", rgb(255, 128, 255)},
+    {"Dark Gray", rgb(64, 64, 64)},
 }};
 
 constexpr int kExtensionStep = KILNUTIL_COLOR_EXTENSION_STEP;

@@ -68,8 +68,7 @@ Triplet rgb_from_hsl(const Triplet& hsl) {
   const double l = hsl.c2 / 100;
   const double t2 = l < 0.5 ? l * (1 + s) : l + s - l * s;
   const double t1 = 2 * l - t2;
-  return {hsl_channel(h + 1.0 / 3, t1, t2) * 255, hsl_channel(h, t1, t2) * 255,
-          hsl_channel(h - 1.0 / 3, t1, t2) * 255};
+  return {hsl_channel(h + 1.0 / 3, t1, t2) * 255, hsl_channel(h, t1, t2) * 255, hsl_channel(h - 1.0 / 3, t1, t2) * 255};
 }
 
 Triplet hsv_from_rgb(const Triplet& rgb) {

@@ -16,13 +16,9 @@ constexpr double kLuvEpsilon = 0.008856451679035631;
 constexpr double kLuvKappa = 903.2962962962963;
 constexpr double kInverseGamma = 0.4166666666666667;
 
-double linear_from_srgb(double c) {
-  return c > 0.04045 ? std::pow((c + 0.055) / 1.055, 2.4) : c / 12.92;
-}
+double linear_from_srgb(double c) { return c > 0.04045 ? std::pow((c + 0.055) / 1.055, 2.4) : c / 12.92; }
 
-double srgb_from_linear(double c) {
-  return c > 0.0031308 ? 1.055 * std::pow(c, kInverseGamma) - 0.055 : 12.92 * c;
-}
+double srgb_from_linear(double c) { return c > 0.0031308 ? 1.055 * std::pow(c, kInverseGamma) - 0.055 : 12.92 * c; }
 
 double lab_f(double t) { return t > kLabEpsilon ? std::cbrt(t) : kLabKappa * t + kLabOffset; }
 

@@ -95,8 +95,7 @@ HGLOBAL read_whole_text(FILE* stream) {
 
 }  // namespace
 
-HGLOBAL read_file_section(const char* path, const char* name, unsigned* status, unsigned* line_index,
-                          unsigned flags) {
+HGLOBAL read_file_section(const char* path, const char* name, unsigned* status, unsigned* line_index, unsigned flags) {
   const bool named = name != nullptr && *name != '\0';
   if (named) {
     set_if_given(line_index, KILNUTIL_SECTION_NO_LINE);

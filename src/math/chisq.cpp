@@ -44,8 +44,7 @@ double chisq_quantile(double p, unsigned df) {
   double step;
   do {
     const double difference = p - incomplete_gamma(x / 2, half_df);
-    const double density =
-        std::exp((half_df - 1) * std::log(x) - (x / 2 + ln_gamma_half_df) - half_df * kLnTwo);
+    const double density = std::exp((half_df - 1) * std::log(x) - (x / 2 + ln_gamma_half_df) - half_df * kLnTwo);
     if (density > kSmallestDensity && x + difference / density >= 0) {
       step = difference / density;
       x += step;

@@ -48,9 +48,7 @@ int bessel_order(double n) {
 
 }  // namespace
 
-bool ln_non_positive_passes_through() {
-  return g_ln_non_positive_passes_through.load(std::memory_order_relaxed);
-}
+bool ln_non_positive_passes_through() { return g_ln_non_positive_passes_through.load(std::memory_order_relaxed); }
 
 void set_ln_non_positive_passes_through(bool on) {
   g_ln_non_positive_passes_through.store(on, std::memory_order_relaxed);

@@ -29,8 +29,8 @@ double script_asec(double x);  // |x| < 1
 double script_acsc(double x);  // |x| < 1
 double script_sech(double x);
 double script_csch(double x);
-double script_asech(double x);  // x <= 0 or x > 1
-double script_acsch(double x);  // x = 0
+double script_asech(double x);            // x <= 0 or x > 1
+double script_acsch(double x);            // x = 0
 double script_hypot(double x, double y);  // a negative leg: code 1
 double script_angle(double x, double y);  // polar angle in [0, 2pi); (0, 0): code 1
 double script_bessel_j0(double x);

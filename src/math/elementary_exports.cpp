@@ -33,8 +33,6 @@ int KILNUTIL_SetLnNonPositivePassThrough(int on) {
   return previous ? 1 : 0;
 }
 
-int KILNUTIL_GetLnNonPositivePassThrough(void) {
-  return kiln::math::ln_non_positive_passes_through() ? 1 : 0;
-}
+int KILNUTIL_GetLnNonPositivePassThrough(void) { return kiln::math::ln_non_positive_passes_through() ? 1 : 0; }
 
 }  // extern "C"

@@ -18,7 +18,7 @@ constexpr double kSqrtTwoPi = 2.50662827465;
 
 constexpr double kFiveTerms[] = {76.18009173, -86.50532033, 24.01409822, -1.231739516, 0.00120858003};
 
-constexpr double kSixTerms[] = {76.18009172947146,  -86.50532032941678,    24.01409824083091,
+constexpr double kSixTerms[] = {76.18009172947146,  -86.50532032941678,   24.01409824083091,
                                 -1.231739572450155, 0.001208650973866179, -5.395239384953e-06};
 
 double lanczos_ln_gamma(double x, std::span<const double> coefficients) {

@@ -137,9 +137,7 @@ private:
   std::uint8_t pivot_col_[KILNUTIL_INVERSE_MAX_ORDER] = {};
 };
 
-int invert_in_place(unsigned n, double* a) {
-  return Elimination(n, a).run(std::pow(10.0, -pivot_exponent()));
-}
+int invert_in_place(unsigned n, double* a) { return Elimination(n, a).run(std::pow(10.0, -pivot_exponent())); }
 
 // Works on a zero-filled global-memory copy, copied back only on success.
 int invert_copy(unsigned n, double* a) {

@@ -28,16 +28,12 @@ bool clamp_narrow(double x, int& clamped) {
 
 // Negation that wraps for the lowest value as the processor's does (nint of
 // -2147483647.9 rounds to 2147483648, which converts to the lowest value).
-std::int64_t negate_wrapping(std::int64_t v) {
-  return static_cast<std::int64_t>(0u - static_cast<std::uint64_t>(v));
-}
+std::int64_t negate_wrapping(std::int64_t v) { return static_cast<std::int64_t>(0u - static_cast<std::uint64_t>(v)); }
 
 int negate_wrapping(int v) { return static_cast<int>(0u - static_cast<std::uint32_t>(v)); }
 
 // n - 1, wrapping for the lowest value (only NaN produces it here).
-int minus_one_wrapping(int n) {
-  return static_cast<int>(static_cast<std::uint32_t>(n) - 1u);
-}
+int minus_one_wrapping(int n) { return static_cast<int>(static_cast<std::uint32_t>(n) - 1u); }
 
 }  // namespace
 

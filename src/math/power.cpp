@@ -31,9 +31,7 @@ bool zero_base_power(double exponent, double* result) {
 // Half away from zero, kept in doubles so no exponent is clamped.
 double round_half_away(double v) { return std::copysign(std::trunc(std::fabs(v) + 0.5), v); }
 
-bool is_whole(double exponent) {
-  return is_equal(round_half_away(exponent), exponent, kCompareNotEqual) == 0;
-}
+bool is_whole(double exponent) { return is_equal(round_half_away(exponent), exponent, kCompareNotEqual) == 0; }
 
 // The runtime's pow with errno watched.
 bool runtime_power(double base, double exponent, double* result) {
@@ -46,9 +44,7 @@ bool runtime_power(double base, double exponent, double* result) {
 
 bool zero_power_zero_allowed() { return g_zero_power_zero.load(std::memory_order_relaxed); }
 
-void set_zero_power_zero_allowed(bool allowed) {
-  g_zero_power_zero.store(allowed, std::memory_order_relaxed);
-}
+void set_zero_power_zero_allowed(bool allowed) { g_zero_power_zero.store(allowed, std::memory_order_relaxed); }
 
 bool power_checked(double base, double exponent, double* result) {
   if (base == 0) return zero_base_power(exponent, result);

@@ -44,9 +44,7 @@ std::int32_t wrap32(std::int64_t value) {
 // (multiplier * g + increment) mod modulus, the remainder taking the sign of
 // the dividend (C++ '%' on signed integers does exactly that). The product of
 // any reachable state fits in 32 bits.
-std::int32_t advance(const Congruential& c, std::int32_t g) {
-  return (c.multiplier * g + c.increment) % c.modulus;
-}
+std::int32_t advance(const Congruential& c, std::int32_t g) { return (c.multiplier * g + c.increment) % c.modulus; }
 
 void advance_state(std::atomic<std::int32_t>& state, const Congruential& c) {
   state.store(advance(c, state.load(std::memory_order_relaxed)), std::memory_order_relaxed);

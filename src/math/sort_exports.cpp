@@ -7,9 +7,7 @@
 
 namespace {
 
-bool usable_records(const void* base, int size, bool has_compare) {
-  return base != nullptr && has_compare && size > 0;
-}
+bool usable_records(const void* base, int size, bool has_compare) { return base != nullptr && has_compare && size > 0; }
 
 }  // namespace
 
@@ -25,10 +23,8 @@ void KILNUTIL_HopefullyFasterQuickSort(void* base, int lo, int hi, int size, Kil
   kiln::math::quick_sort(base, lo, hi, static_cast<std::size_t>(size), compare);
 }
 
-void KILNUTIL_HopefullyFasterQuickSort_synchronized(void* base, int lo, int hi, int size,
-                                                    KilnSortCompareUser compare,
-                                                    const KilnSortCompanion* companions, int count,
-                                                    long long user) {
+void KILNUTIL_HopefullyFasterQuickSort_synchronized(void* base, int lo, int hi, int size, KilnSortCompareUser compare,
+                                                    const KilnSortCompanion* companions, int count, long long user) {
   if (!usable_records(base, size, compare != nullptr)) return;
   kiln::math::quick_sort_synchronized(base, lo, hi, static_cast<std::size_t>(size), compare, companions, count, user);
 }

@@ -29,8 +29,10 @@ PartitionEnds partition_records(Records& records, int lo, int hi, unsigned char*
   int i = lo;
   int j = hi;
   for (;;) {
-    do ++i; while (i < hi && records.compare(records.at(i), p) < 0);
-    do --j; while (j > lo && records.compare(p, records.at(j)) < 0);
+    do ++i;
+    while (i < hi && records.compare(records.at(i), p) < 0);
+    do --j;
+    while (j > lo && records.compare(p, records.at(j)) < 0);
     if (i > j) break;
     if (records.compare(records.at(i), records.at(j)) != 0) records.swap(i, j);
   }

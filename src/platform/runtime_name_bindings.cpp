@@ -9,16 +9,16 @@
 #define KILNUTIL_RUNTIME_SYMVER(name) \
   __asm__(".symver kilnutil_runtime_" #name ", " KILNUTIL_RUNTIME_STRINGIFY(name) "@" KILNUTIL_RUNTIME_VERSION_##name)
 
-#define KILNUTIL_BIND_UNARY(name)                                            \
-  double kilnutil_runtime_##name(double);                                    \
-  __attribute__((visibility("hidden"))) double __wrap_##name(double);        \
-  KILNUTIL_RUNTIME_SYMVER(name);                                             \
+#define KILNUTIL_BIND_UNARY(name)                                     \
+  double kilnutil_runtime_##name(double);                             \
+  __attribute__((visibility("hidden"))) double __wrap_##name(double); \
+  KILNUTIL_RUNTIME_SYMVER(name);                                      \
   double __wrap_##name(double x) { return kilnutil_runtime_##name(x); }
 
-#define KILNUTIL_BIND_BINARY(name)                                           \
-  double kilnutil_runtime_##name(double, double);                            \
+#define KILNUTIL_BIND_BINARY(name)                                            \
+  double kilnutil_runtime_##name(double, double);                             \
   __attribute__((visibility("hidden"))) double __wrap_##name(double, double); \
-  KILNUTIL_RUNTIME_SYMVER(name);                                             \
+  KILNUTIL_RUNTIME_SYMVER(name);                                              \
   double __wrap_##name(double x, double y) { return kilnutil_runtime_##name(x, y); }
 
 extern "C" {

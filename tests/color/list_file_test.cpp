@@ -113,7 +113,10 @@ TEST_F(ColorListFileTest, FailedSaveKeepsTheOldFile) {
 TEST(ColorIniSection, ReplaceAndRead) {
   using kiln::color::IniEntry;
   const std::vector<IniEntry> entries = {{"A", "1 2 3"}};
-  const struct { const char* before; const char* after; } cases[] = {
+  const struct {
+    const char* before;
+    const char* after;
+  } cases[] = {
       {"", "[Color List]\nA=1 2 3\n"},
       {"[x]\nk=v", "[x]\nk=v\n[Color List]\nA=1 2 3\n"},
       {" [ COLOR LIST ] \nB=4\n\n[y]\n", "[Color List]\nA=1 2 3\n[y]\n"},

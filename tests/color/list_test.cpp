@@ -20,12 +20,15 @@ protected:
 };
 
 TEST_F(ColorListTest, BuiltInNamesAndValues) {
-  const struct { const char* name; unsigned rgb; } builtin[] = {
-      {"Black", 0x000000}, {"Red", 0x0000FF}, {"Green", 0x00FF00}, {"Blue", 0xFF0000},
-      {"Cyan", 0xFFFF00}, {"Magenta", 0xFF00FF}, {"Yellow", 0x00FFFF}, {"Dark Yellow", 0x008080},
-      {"Navy", 0x800000}, {"Purple", 0x800080}, {"Wine", 0x000080}, {"Olive", 0x008000},
-      {"Dark Cyan", 0x808000}, {"Royal", 0xA00000}, {"Orange", 0x0080FF}, {"Violet", 0xFF0080},
-      {"Pink", 0x8000FF}, {"White", 0xFFFFFF}, {"LT Gray", 0xC0C0C0}, {"Gray", 0x808080},
+  const struct {
+    const char* name;
+    unsigned rgb;
+  } builtin[] = {
+      {"Black", 0x000000},     {"Red", 0x0000FF},     {"Green", 0x00FF00},      {"Blue", 0xFF0000},
+      {"Cyan", 0xFFFF00},      {"Magenta", 0xFF00FF}, {"Yellow", 0x00FFFF},     {"Dark Yellow", 0x008080},
+      {"Navy", 0x800000},      {"Purple", 0x800080},  {"Wine", 0x000080},       {"Olive", 0x008000},
+      {"Dark Cyan", 0x808000}, {"Royal", 0xA00000},   {"Orange", 0x0080FF},     {"Violet", 0xFF0080},
+      {"Pink", 0x8000FF},      {"White", 0xFFFFFF},   {"LT Gray", 0xC0C0C0},    {"Gray", 0x808080},
       {"LT Yellow", 0x80FFFF}, {"LT Cyan", 0xFFFF80}, {"LT Magenta", 0xFF80FF}, {"Dark Gray", 0x404040},
   };
   ASSERT_EQ(command(KILNUTIL_COLOR_CMD_COUNT), 24);
@@ -43,21 +46,28 @@ TEST_F(ColorListTest, BuiltInNamesAndValues) {
 }
 
 TEST_F(ColorListTest, IndexToRgbAndSearches) {
-  const struct { int index, mode; unsigned rgb; int status; } lookups[] = {
-      {150, 0, 0, 0},                 // above 99: 0 without a lookup
-      {25, 1, 0x0000FF, 0},           // modulo the count: red
-      {-1, 0, 0x404040, 0},           // the last colour
-      {0x01123456, 0, 0x123456, 0},   // an RGB value gives its colour
-      {30, 0, 0, 1},                  // beyond the list and the custom colours
+  const struct {
+    int index, mode;
+    unsigned rgb;
+    int status;
+  } lookups[] = {
+      {150, 0, 0, 0},                // above 99: 0 without a lookup
+      {25, 1, 0x0000FF, 0},          // modulo the count: red
+      {-1, 0, 0x404040, 0},          // the last colour
+      {0x01123456, 0, 0x123456, 0},  // an RGB value gives its colour
+      {30, 0, 0, 1},                 // beyond the list and the custom colours
   };
   for (const auto& l : lookups) {
     int status = -1;
     EXPECT_EQ(color_index_to_rgb(l.index, l.mode, &status), l.rgb) << l.index;
     EXPECT_EQ(status, l.status) << l.index;
   }
-  const struct { unsigned rgb; int mode, index; } searches[] = {
-      {0x808080, 0, 19}, {0x7F7F7F, 1, 19}, {0x7F7F7F, 0, -1}, {0x01FFFFFF, 0, 17},
-      {0x000001, 1, 0},  // Black wins; it comes first
+  const struct {
+    unsigned rgb;
+    int mode, index;
+  } searches[] = {
+      {0x808080, 0, 19},   {0x7F7F7F, 1, 19}, {0x7F7F7F, 0, -1},
+      {0x01FFFFFF, 0, 17}, {0x000001, 1, 0},  // Black wins; it comes first
       {0xFFFFFF, 1, 17},
   };
   for (const auto& s : searches) EXPECT_EQ(color_rgb_to_index(s.rgb, s.mode), s.index) << std::hex << s.rgb;
@@ -68,9 +78,13 @@ TEST_F(ColorListTest, IndexToRgbAndSearches) {
 }
 
 TEST_F(ColorListTest, PaletteNumbersAndFixedCodes) {
-  const struct { int value, offset; unsigned flags; int number; } to_index[] = {
-      {-4, 1, 0x1000, 0}, {5, 1, 0, 6}, {0x12340005, 0, 0, 5}, {-9, 1, 0, -8},
-      {0x010000FF, 1, 0, 2},  // nearest of pure red is Red (index 1)
+  const struct {
+    int value, offset;
+    unsigned flags;
+    int number;
+  } to_index[] = {
+      {-4, 1, 0x1000, 0},     {5, 1, 0, 6},          {0x12340005, 0, 0, 5},
+      {-9, 1, 0, -8},         {0x010000FF, 1, 0, 2},  // nearest of pure red is Red (index 1)
       {-4, 1, 0, 0xFFFC + 1},
   };
   for (const auto& c : to_index) EXPECT_EQ(KILNUTIL_ColorToIndex(c.value, c.offset, c.flags), c.number) << c.value;
@@ -81,9 +95,11 @@ TEST_F(ColorListTest, PaletteNumbersAndFixedCodes) {
   const struct { int value, index; } fixed[] = {{-2, 17}, {-5, 18}, {-6, 23}, {-7, 19}, {-3, 0}, {12, 12}};
   for (const auto& f : fixed) EXPECT_EQ(KILNUTIL_get_color_index(f.value), f.index) << f.value;
 
-  const struct { int index, up, after, result; } shifts[] = {
+  const struct {
+    int index, up, after, result;
+  } shifts[] = {
       {0, 1, 1, 1}, {23, 1, 24, 1}, {24, 1, 24, 0}, {-1, 1, -1, 0},
-      {1, 0, 0, 1}, {24, 0, 23, 1}, {0, 0, 0, 0}, {25, 0, 25, 0},
+      {1, 0, 0, 1}, {24, 0, 23, 1}, {0, 0, 0, 0},   {25, 0, 25, 0},
   };
   for (const auto& s : shifts) {
     int index = s.index;
@@ -144,7 +160,8 @@ TEST_F(ColorListTest, SetCustomColoursAndRestore) {
   EXPECT_EQ(command(KILNUTIL_COLOR_CMD_RGB, 27), KILNUTIL_COLOR_FAILED);
 
   // The user-interface commands touch nothing.
-  for (int ui : {KILNUTIL_COLOR_CMD_DRAW, KILNUTIL_COLOR_CMD_PEN, KILNUTIL_COLOR_CMD_BRUSH, KILNUTIL_COLOR_CMD_DIALOG, 55}) {
+  for (int ui :
+       {KILNUTIL_COLOR_CMD_DRAW, KILNUTIL_COLOR_CMD_PEN, KILNUTIL_COLOR_CMD_BRUSH, KILNUTIL_COLOR_CMD_DIALOG, 55}) {
     EXPECT_EQ(command(ui, 3, name, 7), KILNUTIL_COLOR_NOT_SUPPORTED);
   }
   EXPECT_EQ(command(KILNUTIL_COLOR_CMD_COUNT), 24);

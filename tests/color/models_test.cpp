@@ -33,12 +33,36 @@ Rgb rgb_of(unsigned rgb) { return Rgb(rgb & 0xFF, (rgb >> 8) & 0xFF, (rgb >> 16)
 
 std::array<double, 3> components(Model model, const Rgb& rgb) {
   switch (model) {
-    case Model::kXyz: { Xyz t; t.FromRgb(rgb); return {t.x, t.y, t.z}; }
-    case Model::kLab: { Lab t; t.FromRgb(rgb); return {t.l, t.a, t.b}; }
-    case Model::kLch: { Lch t; t.FromRgb(rgb); return {t.l, t.c, t.h}; }
-    case Model::kLuv: { Luv t; t.FromRgb(rgb); return {t.l, t.u, t.v}; }
-    case Model::kYxy: { Yxy t; t.FromRgb(rgb); return {t.Y, t.x, t.y}; }
-    case Model::kHunterLab: { HunterLab t; t.FromRgb(rgb); return {t.l, t.a, t.b}; }
+    case Model::kXyz: {
+      Xyz t;
+      t.FromRgb(rgb);
+      return {t.x, t.y, t.z};
+    }
+    case Model::kLab: {
+      Lab t;
+      t.FromRgb(rgb);
+      return {t.l, t.a, t.b};
+    }
+    case Model::kLch: {
+      Lch t;
+      t.FromRgb(rgb);
+      return {t.l, t.c, t.h};
+    }
+    case Model::kLuv: {
+      Luv t;
+      t.FromRgb(rgb);
+      return {t.l, t.u, t.v};
+    }
+    case Model::kYxy: {
+      Yxy t;
+      t.FromRgb(rgb);
+      return {t.Y, t.x, t.y};
+    }
+    case Model::kHunterLab: {
+      HunterLab t;
+      t.FromRgb(rgb);
+      return {t.l, t.a, t.b};
+    }
   }
   return {};
 }
@@ -59,14 +83,25 @@ TEST(ColorModelReferences, PrimariesWhiteBlackAndGrayUnderD65) {
 // The hue and subtractive models of orange (255, 128, 0) in their own units.
 TEST(ColorModelReferences, HueAndSubtractiveModelsOfOrange) {
   const Rgb orange(255, 128, 0);
-  Hsl hsl; Hsv hsv; Cmy cmy; Cmyk cmyk;
-  hsl.FromRgb(orange); hsv.FromRgb(orange); cmy.FromRgb(orange); cmyk.FromRgb(orange);
+  Hsl hsl;
+  Hsv hsv;
+  Cmy cmy;
+  Cmyk cmyk;
+  hsl.FromRgb(orange);
+  hsv.FromRgb(orange);
+  cmy.FromRgb(orange);
+  cmyk.FromRgb(orange);
   const double hue = 60 * 128 / 255.0;
-  const struct { const char* what; double got, want; } cases[] = {
-      {"Hsl h", hsl.h, hue}, {"Hsl s (percent)", hsl.s, 100}, {"Hsl l (percent)", hsl.l, 50},
-      {"Hsv h", hsv.h, hue}, {"Hsv s (fraction)", hsv.s, 1}, {"Hsv v (fraction)", hsv.v, 1},
-      {"Cmy m", cmy.m, 127 / 255.0}, {"Cmy y", cmy.y, 1},
-      {"Cmyk c", cmyk.c, 0}, {"Cmyk m", cmyk.m, 127 / 255.0}, {"Cmyk y", cmyk.y, 1}, {"Cmyk k", cmyk.k, 0},
+  const struct {
+    const char* what;
+    double got, want;
+  } cases[] = {
+      {"Hsl h", hsl.h, hue},          {"Hsl s (percent)", hsl.s, 100},
+      {"Hsl l (percent)", hsl.l, 50}, {"Hsv h", hsv.h, hue},
+      {"Hsv s (fraction)", hsv.s, 1}, {"Hsv v (fraction)", hsv.v, 1},
+      {"Cmy m", cmy.m, 127 / 255.0},  {"Cmy y", cmy.y, 1},
+      {"Cmyk c", cmyk.c, 0},          {"Cmyk m", cmyk.m, 127 / 255.0},
+      {"Cmyk y", cmyk.y, 1},          {"Cmyk k", cmyk.k, 0},
   };
   for (const auto& c : cases) EXPECT_NEAR(c.got, c.want, 1e-12) << c.what;
   Cmyk black;
@@ -102,12 +137,12 @@ TEST(ColorModelReferences, BackToRgb) {
 using Factory = std::function<std::unique_ptr<IColorSpace>()>;
 const std::vector<std::pair<std::string, Factory>>& factories() {
   static const std::vector<std::pair<std::string, Factory>> all = {
-      {"Rgb", [] { return std::make_unique<Rgb>(); }},       {"Xyz", [] { return std::make_unique<Xyz>(); }},
-      {"Lab", [] { return std::make_unique<Lab>(); }},       {"Lch", [] { return std::make_unique<Lch>(); }},
-      {"Luv", [] { return std::make_unique<Luv>(); }},       {"HunterLab", [] { return std::make_unique<HunterLab>(); }},
-      {"Yxy", [] { return std::make_unique<Yxy>(); }},       {"Hsl", [] { return std::make_unique<Hsl>(); }},
-      {"Hsv", [] { return std::make_unique<Hsv>(); }},       {"Hsb", [] { return std::make_unique<Hsb>(); }},
-      {"Cmy", [] { return std::make_unique<Cmy>(); }},       {"Cmyk", [] { return std::make_unique<Cmyk>(); }},
+      {"Rgb", [] { return std::make_unique<Rgb>(); }}, {"Xyz", [] { return std::make_unique<Xyz>(); }},
+      {"Lab", [] { return std::make_unique<Lab>(); }}, {"Lch", [] { return std::make_unique<Lch>(); }},
+      {"Luv", [] { return std::make_unique<Luv>(); }}, {"HunterLab", [] { return std::make_unique<HunterLab>(); }},
+      {"Yxy", [] { return std::make_unique<Yxy>(); }}, {"Hsl", [] { return std::make_unique<Hsl>(); }},
+      {"Hsv", [] { return std::make_unique<Hsv>(); }}, {"Hsb", [] { return std::make_unique<Hsb>(); }},
+      {"Cmy", [] { return std::make_unique<Cmy>(); }}, {"Cmyk", [] { return std::make_unique<Cmyk>(); }},
   };
   return all;
 }
@@ -116,19 +151,19 @@ const std::vector<std::pair<std::string, Factory>>& factories() {
 // back through the target within the accuracy of the published matrices.
 TEST(ColorModelConvertTo, EveryPairKeepsTheColour) {
   for (const Rgb& start : {Rgb(200, 120, 40), Rgb(10, 250, 128), Rgb(255, 0, 1), Rgb(3, 2, 1)}) {
-  for (const auto& [source_name, make_source] : factories()) {
-    for (const auto& [target_name, make_target] : factories()) {
-      auto source = make_source();
-      source->FromRgb(start);
-      auto target = make_target();
-      ConvertTo(*source, *target);
-      Rgb back;
-      target->ToRgb(back);
-      EXPECT_NEAR(back.r, start.r, 0.01) << source_name << " -> " << target_name;
-      EXPECT_NEAR(back.g, start.g, 0.01) << source_name << " -> " << target_name;
-      EXPECT_NEAR(back.b, start.b, 0.01) << source_name << " -> " << target_name;
+    for (const auto& [source_name, make_source] : factories()) {
+      for (const auto& [target_name, make_target] : factories()) {
+        auto source = make_source();
+        source->FromRgb(start);
+        auto target = make_target();
+        ConvertTo(*source, *target);
+        Rgb back;
+        target->ToRgb(back);
+        EXPECT_NEAR(back.r, start.r, 0.01) << source_name << " -> " << target_name;
+        EXPECT_NEAR(back.g, start.g, 0.01) << source_name << " -> " << target_name;
+        EXPECT_NEAR(back.b, start.b, 0.01) << source_name << " -> " << target_name;
+      }
     }
-  }
   }
 }
 
@@ -163,7 +198,10 @@ TEST(ColorModelConvertTo, SameTypeCopiesComponents) {
 // come back within rounding noise (worst error seen: 5.7e-13 of a unit, HSL and HSV).
 TEST(ColorModelRoundTrip, ExactInversesOverAllColours) {
   double worst[4] = {0, 0, 0, 0};
-  Hsl hsl; Hsv hsv; Cmy cmy; Cmyk cmyk;  // Hsb is Hsv renamed: covered by the pairs above
+  Hsl hsl;
+  Hsv hsv;
+  Cmy cmy;
+  Cmyk cmyk;  // Hsb is Hsv renamed: covered by the pairs above
   IColorSpace* models[4] = {&hsl, &hsv, &cmy, &cmyk};
   for (unsigned rgb = 0; rgb <= 0xFFFFFF; ++rgb) {
     const Rgb start = rgb_of(rgb);
@@ -172,8 +210,8 @@ TEST(ColorModelRoundTrip, ExactInversesOverAllColours) {
       models[m]->FromRgb(start);
       Rgb back;
       models[m]->ToRgb(back);
-      const double error = std::max({std::fabs(back.r - start.r), std::fabs(back.g - start.g),
-                                     std::fabs(back.b - start.b)});
+      const double error =
+          std::max({std::fabs(back.r - start.r), std::fabs(back.g - start.g), std::fabs(back.b - start.b)});
       worst[m] = std::max(worst[m], error);
     }
   }
@@ -195,8 +233,12 @@ TEST(ColorModelRoundTrip, CieModelsComeBackToTheSameBytes) {
   }
   for (unsigned rgb = 0; rgb <= 0xFFFFFF; rgb += 4099) {
     for (int m = 0; m < 3; ++m) {
-      Luv luv; HunterLab hunter; Yxy yxy;
-      IColorSpace* model = m == 0 ? static_cast<IColorSpace*>(&luv) : m == 1 ? &hunter : static_cast<IColorSpace*>(&yxy);
+      Luv luv;
+      HunterLab hunter;
+      Yxy yxy;
+      IColorSpace* model = m == 0   ? static_cast<IColorSpace*>(&luv)
+                           : m == 1 ? &hunter
+                                    : static_cast<IColorSpace*>(&yxy);
       const Rgb start = rgb_of(rgb);
       model->FromRgb(start);
       Rgb back;
@@ -221,7 +263,8 @@ TEST(ColorModelRoundTrip, IntegerHslAgreesWithFractions) {
     RGBtoHSL(rgb, &h, &s, &l);
     const unsigned back = HSLtoRGB(h, s, l);
     for (int shift = 0; shift < 24; shift += 8) {
-      worst = std::max(worst, std::abs(static_cast<int>((back >> shift) & 0xFF) - static_cast<int>((rgb >> shift) & 0xFF)));
+      worst =
+          std::max(worst, std::abs(static_cast<int>((back >> shift) & 0xFF) - static_cast<int>((rgb >> shift) & 0xFF)));
     }
   }
   EXPECT_LE(worst, 5);
@@ -245,9 +288,12 @@ TEST(ColorModelQuirks, SideEffectsScalesAndSectors) {
   EXPECT_EQ(big.b, 12750);
 
   // Hsv: sector 5, negative hues and 360 all take the catch-all (C, 0, X).
-  const struct { double hue; double r, g, b; } sectors[] = {
-      {0, 255, 0, 0}, {360, 255, 0, 0}, {300, 255, 0, 255}, {-60, 255, 0, -255}, {720, 255, 0, 0},
-      {120, 0, 255, 0}, {240, 0, 0, 255},
+  const struct {
+    double hue;
+    double r, g, b;
+  } sectors[] = {
+      {0, 255, 0, 0},   {360, 255, 0, 0}, {300, 255, 0, 255}, {-60, 255, 0, -255},
+      {720, 255, 0, 0}, {120, 0, 255, 0}, {240, 0, 0, 255},
   };
   for (const auto& s : sectors) {
     Hsv hsv(s.hue, 1, 1);
@@ -265,9 +311,13 @@ TEST(ColorModelQuirks, SideEffectsScalesAndSectors) {
   EXPECT_FALSE(std::isfinite(infinite.r));
 
   // Hsv and Hsb keep fractions, Hsl percent.
-  Hsl hsl; Hsv hsv; Hsb hsb;
+  Hsl hsl;
+  Hsv hsv;
+  Hsb hsb;
   const Rgb red(255, 0, 0);
-  hsl.FromRgb(red); hsv.FromRgb(red); hsb.FromRgb(red);
+  hsl.FromRgb(red);
+  hsv.FromRgb(red);
+  hsb.FromRgb(red);
   EXPECT_EQ(hsl.s, 100);
   EXPECT_EQ(hsl.l, 50);
   EXPECT_EQ(hsv.s, 1);
@@ -279,7 +329,10 @@ TEST(ColorModelQuirks, SideEffectsScalesAndSectors) {
 
 // The flat exports: truncation, rounding and wrapping into packed values.
 TEST(ColorFlatExports, PackingRules) {
-  const struct { const char* what; unsigned got, want; } cases[] = {
+  const struct {
+    const char* what;
+    unsigned got, want;
+  } cases[] = {
       {"LAB white", LABtoRGB(100, 0, 0), 0xFFFFFF},
       {"LAB wraps 257 -> 1, -214 -> 42", LABtoRGB(50, 100, 0), 0x7B2A01},
       {"HSV red", HSVtoRGB(0, 1, 1), 0x0000FF},
@@ -297,10 +350,17 @@ TEST(ColorFlatExports, PackingRules) {
   for (const auto& c : cases) EXPECT_EQ(c.got, c.want) << c.what;
 
   // RGBtoHSV: hue in degrees, saturation and value as fractions; no chroma gives hue 0.
-  const struct { unsigned rgb; double hue, saturation, value; } hsv_cases[] = {
-      {0x0000FF, 0, 1, 1},    {0xFF0000, 240, 1, 1}, {0x00FFFF, 60, 1, 1},
-      {0xFF00FF, 300, 1, 1},  {0x0080FF, 60 * 128 / 255.0, 1, 1},
-      {0x404040, 0, 0, 64 / 255.0}, {0xFF000000, 0, 0, 0},  // the fourth byte is ignored
+  const struct {
+    unsigned rgb;
+    double hue, saturation, value;
+  } hsv_cases[] = {
+      {0x0000FF, 0, 1, 1},
+      {0xFF0000, 240, 1, 1},
+      {0x00FFFF, 60, 1, 1},
+      {0xFF00FF, 300, 1, 1},
+      {0x0080FF, 60 * 128 / 255.0, 1, 1},
+      {0x404040, 0, 0, 64 / 255.0},
+      {0xFF000000, 0, 0, 0},  // the fourth byte is ignored
       {0x000080, 0, 1, 128 / 255.0},
   };
   for (const auto& c : hsv_cases) {

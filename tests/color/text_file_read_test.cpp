@@ -31,7 +31,11 @@ std::string wide_bytes(const std::u32string& text, int width, bool big_endian) {
 TEST(ColorTextFileRead, EveryEncodingBecomesUtf8) {
   const std::u32string bleu = U"Bleu \u00E9t\u00E9";
   const unsigned previous = set_code_page_for_string_process(1252);
-  const struct { const char* what; std::string bytes; std::string utf8; } cases[] = {
+  const struct {
+    const char* what;
+    std::string bytes;
+    std::string utf8;
+  } cases[] = {
       {"UTF-8", kBleu, kBleu},
       {"UTF-8 with mark", "\xEF\xBB\xBF" + kBleu, kBleu},
       {"UTF-16LE with mark", "\xFF\xFE" + wide_bytes(bleu, 2, false), kBleu},

@@ -16,9 +16,9 @@ TEST(PathSyntax, EveryResultCode) {
       {"C:\\data\\a.txt", KILNUTIL_PATH_DRIVE},
       {"C:a.txt", KILNUTIL_PATH_DRIVE},
       {"z:\\", KILNUTIL_PATH_DRIVE},
-      {"C:/data/a.txt", KILNUTIL_PATH_DRIVE},          // "/" allowed after "X:/"
-      {"C:\\a(b?c)", KILNUTIL_PATH_DRIVE},             // bracketed parts are not searched
-      {"C:\\\"a*b\"", KILNUTIL_PATH_BAD_CHARACTER},    // the double quote is itself forbidden
+      {"C:/data/a.txt", KILNUTIL_PATH_DRIVE},        // "/" allowed after "X:/"
+      {"C:\\a(b?c)", KILNUTIL_PATH_DRIVE},           // bracketed parts are not searched
+      {"C:\\\"a*b\"", KILNUTIL_PATH_BAD_CHARACTER},  // the double quote is itself forbidden
       {"C:\\a[<>]{|}", KILNUTIL_PATH_DRIVE},
       {"\\\\server\\share\\f.txt", KILNUTIL_PATH_UNC},
       {"\\\\server", KILNUTIL_PATH_UNC},
@@ -28,7 +28,7 @@ TEST(PathSyntax, EveryResultCode) {
       {"", KILNUTIL_PATH_NOT_ABSOLUTE},
       {"C", KILNUTIL_PATH_NOT_ABSOLUTE},
       {"1:\\a", KILNUTIL_PATH_NOT_ABSOLUTE},
-      {"\xC3\xA9:\\a", KILNUTIL_PATH_NOT_ABSOLUTE},   // a letter, but not a single-byte one
+      {"\xC3\xA9:\\a", KILNUTIL_PATH_NOT_ABSOLUTE},  // a letter, but not a single-byte one
       {"\\a", KILNUTIL_PATH_NOT_ABSOLUTE},
       {"\\\\123\\share", KILNUTIL_PATH_BAD_SERVER},
       {"\\\\\\share", KILNUTIL_PATH_BAD_SERVER},
@@ -37,7 +37,7 @@ TEST(PathSyntax, EveryResultCode) {
       {"\\\\a,b\\share", KILNUTIL_PATH_BAD_SERVER},
       {"C:\\a?b", KILNUTIL_PATH_BAD_CHARACTER},
       {"C:\\a:b", KILNUTIL_PATH_BAD_CHARACTER},
-      {"C:\\a/b", KILNUTIL_PATH_BAD_CHARACTER},        // "/" is forbidden unless the rest starts with it
+      {"C:\\a/b", KILNUTIL_PATH_BAD_CHARACTER},  // "/" is forbidden unless the rest starts with it
       {"C:/a:b", KILNUTIL_PATH_BAD_CHARACTER},
       {"\\\\srv\\a|b", KILNUTIL_PATH_BAD_CHARACTER},
       {"C:\\data\\\\a.txt", KILNUTIL_PATH_DOUBLE_BACKSLASH},
@@ -70,7 +70,7 @@ TEST(PathSplit, FolderNameAndExtension) {
       {"a.txt", "", "a.txt", ".txt", false},
       {"C:a.txt", "C:", "a.txt", ".txt", true},
       {"C:\\data.d\\readme", "C:\\data.d\\", "readme", "-", true},  // a dot in the folder is no extension
-      {"/tmp/x.y/z", "", "/tmp/x.y/z", ".y/z", false},             // forward slashes do not separate
+      {"/tmp/x.y/z", "", "/tmp/x.y/z", ".y/z", false},              // forward slashes do not separate
       {"\\\\srv\\share\\", "\\\\srv\\share\\", "", "-", true},
       {"\\f", "\\", "f", "-", true},
       {"", "", "", "-", false},

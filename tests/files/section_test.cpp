@@ -22,20 +22,14 @@ struct HeaderCase {
 
 TEST(SectionHeader, RecognitionTable) {
   const HeaderCase cases[] = {
-      {"[One]", "One"},
-      {"  [ One ]  // note", "One"},
-      {"[One] x", "One"},
-      {"\t[\tTwo words \t]\r\n", "Two words"},
-      {"[One]=", nullptr},
-      {"[One] (x)", nullptr},
-      {"[One]!", nullptr},
-      {"[One] // (=) after a comment", "One"},
-      {"[a(b]c)]", "a(b]c)"},   // the closer is searched outside brackets
-      {"[f(x)}", "f(x)"},       // no "]", but ")" and "}": the "}" closes the name
-      {"[f(x)", nullptr},
-      {"[open", nullptr},
-      {"x [One]", nullptr},
-      {"", nullptr},
+      {"[One]", "One"},           {"  [ One ]  // note", "One"},
+      {"[One] x", "One"},         {"\t[\tTwo words \t]\r\n", "Two words"},
+      {"[One]=", nullptr},        {"[One] (x)", nullptr},
+      {"[One]!", nullptr},        {"[One] // (=) after a comment", "One"},
+      {"[a(b]c)]", "a(b]c)"},  // the closer is searched outside brackets
+      {"[f(x)}", "f(x)"},      // no "]", but ")" and "}": the "}" closes the name
+      {"[f(x)", nullptr},         {"[open", nullptr},
+      {"x [One]", nullptr},       {"", nullptr},
       {"\xC2\xA0[Nbsp]", "Nbsp"},
   };
   for (const HeaderCase& c : cases) {
@@ -87,7 +81,7 @@ TEST_F(SectionFile, PreambleTable) {
       {"a\r\n[One]\r\nx=1\r\n", "a\r\n"},
       {"a\n  [ One ]  // note\nx\n", "a\n  [ One ]  // note\nx\n"},  // a comment keeps it from ending the preamble
       {"a\n[One] x\nb\n", "a\n[One] x\nb\n"},
-      {"a\n[One]", "a\n[One]"},     // last line without a line end
+      {"a\n[One]", "a\n[One]"},      // last line without a line end
       {"a\n[One]\n", "a\n[One]\n"},  // the line end is the file's last byte
       {"a\n[One]\nb", "a\n"},
       {"a\n  [One]  \t\nb", "a\n"},
@@ -195,7 +189,8 @@ TEST_F(SectionFile, LongLinesAreReadInPiecesOf1199Bytes) {
 
   // A section of many long lines comes back whole through every growth step.
   std::string body;
-  for (int i = 0; i < 300; ++i) body += std::string(static_cast<size_t>(i % 1500), static_cast<char>('a' + i % 26)) + "\n";
+  for (int i = 0; i < 300; ++i)
+    body += std::string(static_cast<size_t>(i % 1500), static_cast<char>('a' + i % 26)) + "\n";
   const std::string big = write("[S]\n" + body + "[T]\n");
   EXPECT_EQ(take_text(KILNUTIL_GetFileSection(big.c_str(), "s", &status)), body);
 }
@@ -203,8 +198,8 @@ TEST_F(SectionFile, LongLinesAreReadInPiecesOf1199Bytes) {
 TEST_F(SectionFile, NoConversionFlagKeepsTheBytes) {
   const std::string utf16le = utf16("[A]\nx\n", false);
   const std::string path = write(utf16le);
-  const HGLOBAL block = KILNUTIL_GetFileSectionEx(path.c_str(), nullptr, nullptr, nullptr,
-                                                  KILNUTIL_SECTION_NO_CONVERSION);
+  const HGLOBAL block =
+      KILNUTIL_GetFileSectionEx(path.c_str(), nullptr, nullptr, nullptr, KILNUTIL_SECTION_NO_CONVERSION);
   ASSERT_NE(block, nullptr);
   EXPECT_EQ(std::memcmp(GlobalLock(block), utf16le.data(), utf16le.size()), 0);
   GlobalUnlock(block);

@@ -61,8 +61,8 @@ TEST(CommentReader, BothSourcesTable) {
       {"a /* b */ c", "a  c", "a  c", 0},
       {"x // note\ny", "x \ny", "x \ny", 1},
       {"a \\  \nb\n", "a b\n", "a b\n", 2},  // the joined line is reported with the next line feed
-      {"a\\\r\nb\n", "ab\n", "ab\n", 3},  // a carriage return and line feed pair joins two
-      {"a/b", "a/b", "a/", 0},              // the string source cannot give "b" back
+      {"a\\\r\nb\n", "ab\n", "ab\n", 3},     // a carriage return and line feed pair joins two
+      {"a/b", "a/b", "a/", 0},               // the string source cannot give "b" back
       {"'\"' /* c */ x", "'\"'  x", "'\"'  x", 0},
       {"s = \"/* kept */ // kept\";", "s = \"/* kept */ // kept\";", "s = \"/* kept */ // kept\";", 0},
       {"/* one\ntwo */x\n", "x\n", "x\n", 2},
@@ -166,8 +166,8 @@ TEST(CommentReader, SourcesCopyByValueAndStreamEndCounts) {
 struct TextSkipCase {
   const char* text;
   unsigned flags;
-  int skipped;        // KILNUTIL_parse_C_comments
-  int skipped_cpp;    // KILNUTIL_skip_CPP_comments_and_spaces
+  int skipped;      // KILNUTIL_parse_C_comments
+  int skipped_cpp;  // KILNUTIL_skip_CPP_comments_and_spaces
 };
 
 TEST(CommentText, LeadingCommentsTable) {
@@ -175,9 +175,9 @@ TEST(CommentText, LeadingCommentsTable) {
       {"/* a */x", 0, 7, 7},
       {"/* a */ /* b */x", 0, 7, 15},
       {"/* a */ /* b */x", KILNUTIL_COMMENTS_SKIP_SPACES, 15, 15},
-      {"/* open", 0, 0, 0},           // an open comment skips nothing
-      {"/*/ x */y", 0, 8, 8},         // the closer is searched behind the opener
-      {"  // line\nnext", 0, 0, 9},   // the line feed is not consumed
+      {"/* open", 0, 0, 0},          // an open comment skips nothing
+      {"/*/ x */y", 0, 8, 8},        // the closer is searched behind the opener
+      {"  // line\nnext", 0, 0, 9},  // the line feed is not consumed
       {"\t# directive", 0, 0, 12},
       {"/**/ // c", 0, 4, 9},
       {"x /* c */", 0, 0, 0},

@@ -67,8 +67,8 @@ TEST_F(Language, DeterminationTable) {
       {nullptr, nullptr, 0, 0xFFFFFFFF},
       {"[General]\nLanguage=G\n", "ja_JP", 2, 1252},  // the stored choice comes first
       {"[General]\r\nlanguage = japanese\r\n", nullptr, 3, 932},
-      {"[Other]\nLanguage=G\n", "zh_CN", 4, 936},     // only the [General] section counts
-      {"[General]\nLanguage=X\n", "de", 2, 1252},     // an unknown letter falls back
+      {"[Other]\nLanguage=G\n", "zh_CN", 4, 936},  // only the [General] section counts
+      {"[General]\nLanguage=X\n", "de", 2, 1252},  // an unknown letter falls back
   };
   for (const DeterminationCase& c : cases) {
     SCOPED_TRACE(std::string(c.settings ? c.settings : "-") + " / " + (c.lang ? c.lang : "-"));
@@ -139,7 +139,7 @@ TEST_F(Language, LookupTables) {
     unsigned index;
   };
   const IndexCase indices[] = {
-      {"german", 1, 2}, {"german", 0, 255}, {"German", 0, 2}, {"JAPANESE", 1, 3}, {"Chinese", 1, 4},
+      {"german", 1, 2}, {"german", 0, 255}, {"German", 0, 2},          {"JAPANESE", 1, 3},  {"Chinese", 1, 4},
       {"E", 0, 1},      {"e", 0, 255},      {"French", 1, 0xFFFFFFFF}, {"", 0, 0xFFFFFFFF}, {nullptr, 1, 0xFFFFFFFF},
   };
   for (const IndexCase& c : indices) {
@@ -150,8 +150,8 @@ TEST_F(Language, LookupTables) {
     unsigned index;
     const char* path;
   };
-  const PathCase paths[] = {{0, "Localization\\E\\"}, {1, "Localization\\E\\"}, {2, "Localization\\G\\"},
-                            {3, "Localization\\J\\"}, {4, "Localization\\C\\"}, {9, "Localization\\E\\"},
+  const PathCase paths[] = {{0, "Localization\\E\\"},      {1, "Localization\\E\\"}, {2, "Localization\\G\\"},
+                            {3, "Localization\\J\\"},      {4, "Localization\\C\\"}, {9, "Localization\\E\\"},
                             {0xFFFFFFFF, "Localization\\"}};
   for (const PathCase& c : paths) {
     char buffer[32] = "";

@@ -71,7 +71,10 @@ TEST(MathDistF, TailAndQuantile) {
 }
 
 TEST(MathDistF, QuantileFailures) {
-  struct Case { double p; unsigned df1, df2; };
+  struct Case {
+    double p;
+    unsigned df1, df2;
+  };
   const Case cases[] = {{0, 2, 2}, {1, 2, 2}, {0.5, 0, 2}, {0.5, 2, 0}, {kNaN, 3, 3}};
   for (const Case& c : cases) {
     EXPECT_EQ(Ftable(c.p, c.df1, c.df2), KILNUTIL_NANUM) << c.p << ", " << c.df1 << ", " << c.df2;
@@ -108,7 +111,9 @@ TEST(MathDistChisq, QuantileAndItsMinusOneFailures) {
     EXPECT_EQ(Chisqr_dist_export_ptr(block, &out), 0);
     EXPECT_EQ(out, ChisqDist(r.x, udf(r.y)));
   }
-  struct Case { double p, df; };
+  struct Case {
+    double p, df;
+  };
   const Case failures[] = {{1, 3}, {-0.1, 3}, {0.5, 0}, {0.5, 0.5}};
   for (const Case& c : failures) {
     const double block[] = {c.p, c.df};

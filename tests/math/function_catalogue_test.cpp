@@ -39,19 +39,19 @@ struct CatalogueRow {
 
 // Alphabetical order of the names is the script's function numbering.
 constexpr CatalogueRow kCatalogue[] = {
-    {"ABS", 1, 0x08}, {"ACOS", 1, 0x22}, {"ACOSH", 1, 0x80}, {"ACOT", 1, 0x02}, {"ACOTH", 1, 0x80},
-    {"ACSC", 1, 0x02}, {"ACSCH", 1, 0x80}, {"ANGLE", 2, 0x08}, {"ASEC", 1, 0x02}, {"ASECH", 1, 0x80},
-    {"ASIN", 1, 0x22}, {"ASINH", 1, 0x80}, {"ATAN", 1, 0x02}, {"ATAN2", 2, 0x02}, {"ATANH", 1, 0x80},
-    {"BETA", 2, 0x08}, {"COS", 1, 0x01}, {"COSH", 1, 0x80}, {"COT", 1, 0x01}, {"COTH", 1, 0x80},
-    {"CSC", 1, 0x01}, {"CSCH", 1, 0x80}, {"ERF", 1, 0x08}, {"EXP", 1, 0x00}, {"EXPM1", 1, 0x08},
-    {"FRAC", 1, 0x08}, {"FTABLE", 3, 0x08}, {"GAMMALN", 1, 0x08}, {"INCBETA", 3, 0x08}, {"INCF", 3, 0x08},
-    {"INCGAMMA", 2, 0x08}, {"INT", 1, 0x08}, {"INT2", 1, 0x08}, {"INVERF", 1, 0x08}, {"INVF", 3, 0x08},
-    {"INVPROB", 1, 0x08}, {"INVT", 2, 0x08}, {"J0", 1, 0x08}, {"J1", 1, 0x08}, {"JN", 2, 0x08},
-    {"LN", 1, 0x10}, {"LN1P", 1, 0x08}, {"LOG", 1, 0x10}, {"MOD", 2, 0x08}, {"MOD2", 2, 0x08},
-    {"NINT", 1, 0x08}, {"PREC", 2, 0x08}, {"PROB", 1, 0x08}, {"QCD2", 1, 0x08}, {"QCD3", 1, 0x08},
-    {"QCD4", 1, 0x08}, {"RMOD", 2, 0x08}, {"RMOD2", 2, 0x08}, {"ROUND", 2, 0x08}, {"SECANT", 1, 0x01},
-    {"SECH", 1, 0x80}, {"SIN", 1, 0x01}, {"SINH", 1, 0x80}, {"SQRT", 1, 0x04}, {"TAN", 1, 0x01},
-    {"TANH", 1, 0x80}, {"TTABLE", 2, 0x08}, {"Y0", 1, 0x08}, {"Y1", 1, 0x08}, {"YN", 2, 0x08},
+    {"ABS", 1, 0x08},      {"ACOS", 1, 0x22},   {"ACOSH", 1, 0x80},   {"ACOT", 1, 0x02},    {"ACOTH", 1, 0x80},
+    {"ACSC", 1, 0x02},     {"ACSCH", 1, 0x80},  {"ANGLE", 2, 0x08},   {"ASEC", 1, 0x02},    {"ASECH", 1, 0x80},
+    {"ASIN", 1, 0x22},     {"ASINH", 1, 0x80},  {"ATAN", 1, 0x02},    {"ATAN2", 2, 0x02},   {"ATANH", 1, 0x80},
+    {"BETA", 2, 0x08},     {"COS", 1, 0x01},    {"COSH", 1, 0x80},    {"COT", 1, 0x01},     {"COTH", 1, 0x80},
+    {"CSC", 1, 0x01},      {"CSCH", 1, 0x80},   {"ERF", 1, 0x08},     {"EXP", 1, 0x00},     {"EXPM1", 1, 0x08},
+    {"FRAC", 1, 0x08},     {"FTABLE", 3, 0x08}, {"GAMMALN", 1, 0x08}, {"INCBETA", 3, 0x08}, {"INCF", 3, 0x08},
+    {"INCGAMMA", 2, 0x08}, {"INT", 1, 0x08},    {"INT2", 1, 0x08},    {"INVERF", 1, 0x08},  {"INVF", 3, 0x08},
+    {"INVPROB", 1, 0x08},  {"INVT", 2, 0x08},   {"J0", 1, 0x08},      {"J1", 1, 0x08},      {"JN", 2, 0x08},
+    {"LN", 1, 0x10},       {"LN1P", 1, 0x08},   {"LOG", 1, 0x10},     {"MOD", 2, 0x08},     {"MOD2", 2, 0x08},
+    {"NINT", 1, 0x08},     {"PREC", 2, 0x08},   {"PROB", 1, 0x08},    {"QCD2", 1, 0x08},    {"QCD3", 1, 0x08},
+    {"QCD4", 1, 0x08},     {"RMOD", 2, 0x08},   {"RMOD2", 2, 0x08},   {"ROUND", 2, 0x08},   {"SECANT", 1, 0x01},
+    {"SECH", 1, 0x80},     {"SIN", 1, 0x01},    {"SINH", 1, 0x80},    {"SQRT", 1, 0x04},    {"TAN", 1, 0x01},
+    {"TANH", 1, 0x80},     {"TTABLE", 2, 0x08}, {"Y0", 1, 0x08},      {"Y1", 1, 0x08},      {"YN", 2, 0x08},
 };
 
 TEST(MathCatalogue, NamesIndicesCountsAndFlags) {
@@ -151,8 +151,8 @@ TEST(MathCatalogue, FlagRulesAndAngleUnits) {
       {"SQRT", {6.25}, KILNUTIL_MATHFN_UNIT_RADIANS, 2.5, 0},
       {"LOG", {1000}, KILNUTIL_MATHFN_UNIT_RADIANS, 3, 0},
       {"LN1P", {1e-20}, KILNUTIL_MATHFN_UNIT_RADIANS, 1e-20, 0},
-      {"ACOSH", {0.5}, KILNUTIL_MATHFN_UNIT_RADIANS, kNanum, 0},  // the routine's own failure, no code
-      {"Y0", {0}, KILNUTIL_MATHFN_UNIT_RADIANS, kNanum, 1},       // the routine's own failure with code 1
+      {"ACOSH", {0.5}, KILNUTIL_MATHFN_UNIT_RADIANS, kNanum, 0},        // the routine's own failure, no code
+      {"Y0", {0}, KILNUTIL_MATHFN_UNIT_RADIANS, kNanum, 1},             // the routine's own failure with code 1
       {"ANGLE", {1, -1}, KILNUTIL_MATHFN_UNIT_DEGREES, 7 * pi / 4, 0},  // no angle flag: radians
       {"JN", {1, 2.5}, KILNUTIL_MATHFN_UNIT_RADIANS, 0.49709410246427405, 0},
   };

@@ -108,9 +108,17 @@ struct PowerCase {
 
 TEST(MathGuardedArithmetic, PowerDomainAndLimits) {
   const PowerCase cases[] = {
-      {0, 0, kMissing},     {0, -1, kMissing}, {0, 2, 0},          {-8, 1.0 / 3, kMissing},
-      {-2, 3, -8},          {10, 400, kMissing}, {10, -400, 0},    {2, 0.5, std::sqrt(2.0)},
-      {kMissing, 1, kMissing}, {2, kMissing, kMissing}, {2, -1100, kMissing},  // underflow: range error
+      {0, 0, kMissing},
+      {0, -1, kMissing},
+      {0, 2, 0},
+      {-8, 1.0 / 3, kMissing},
+      {-2, 3, -8},
+      {10, 400, kMissing},
+      {10, -400, 0},
+      {2, 0.5, std::sqrt(2.0)},
+      {kMissing, 1, kMissing},
+      {2, kMissing, kMissing},
+      {2, -1100, kMissing},                // underflow: range error
       {-2, 2.0000000000000004, kMissing},  // whole within the is_equal tolerance, refused by the runtime
   };
   for (const PowerCase& c : cases) {

@@ -24,7 +24,9 @@ Matrix multiply(const Matrix& a, const Matrix& b, int n) {
   Matrix c(a.size(), 0.0);
   for (int i = 0; i < n; ++i)
     for (int k = 0; k < n; ++k)
-      for (int j = 0; j < n; ++j) c[static_cast<std::size_t>(i * n + j)] += a[static_cast<std::size_t>(i * n + k)] * b[static_cast<std::size_t>(k * n + j)];
+      for (int j = 0; j < n; ++j)
+        c[static_cast<std::size_t>(i * n + j)] +=
+            a[static_cast<std::size_t>(i * n + k)] * b[static_cast<std::size_t>(k * n + j)];
   return c;
 }
 
@@ -104,11 +106,14 @@ TEST(KilnMathInverse, PermutationMatricesInvertExactly) {
 }
 
 TEST(KilnMathInverse, SingularAndNearSingular) {
-  struct Case { int n; Matrix m; };
+  struct Case {
+    int n;
+    Matrix m;
+  };
   const Case singular[] = {
-      {3, {1, 2, 3, 0, 0, 0, 4, 5, 6}},            // zero row
-      {3, {1, 2, 3, 2, 4, 6, 1, 0, 1}},            // dependent rows
-      {2, {1, 1, 1, 1 + 1e-16}},                   // equal in doubles
+      {3, {1, 2, 3, 0, 0, 0, 4, 5, 6}},  // zero row
+      {3, {1, 2, 3, 2, 4, 6, 1, 0, 1}},  // dependent rows
+      {2, {1, 1, 1, 1 + 1e-16}},         // equal in doubles
   };
   for (const Case& c : singular) {
     Matrix copy = c.m;

@@ -34,9 +34,13 @@ TEST(RandomGenerator, SequencesAfterFixedSeeds) {
       {"rnd(5)", [] { EXPECT_EQ(rnd(5), 0.0); }, next_uniform, kDrawsAfterRnd5},
       {"rnd(1)", [] { EXPECT_EQ(rnd(1), 0.0); }, next_uniform, kDrawsAfterRnd1},
       {"grnd(7)", [] { EXPECT_EQ(grnd(7), 0.0); }, next_normal, kNormalsAfterGrnd7},
-      {"ran1_export(-123456)", [] { int s = -123456; ran1_export(&s); }, next_uniform, kDrawsAfterSeedMinus123456},
-      {"norm_dev_export_ptr draws",
-       [] { EXPECT_EQ(grnd(7), 0.0); },
+      {"ran1_export(-123456)",
+       [] {
+         int s = -123456;
+         ran1_export(&s);
+       },
+       next_uniform, kDrawsAfterSeedMinus123456},
+      {"norm_dev_export_ptr draws", [] { EXPECT_EQ(grnd(7), 0.0); },
        [] {
          double v = 0;
          EXPECT_EQ(norm_dev_export_ptr(1, &v), 0);

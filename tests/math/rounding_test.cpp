@@ -62,13 +62,18 @@ struct PrecCase {
 
 TEST(MathRounding, SignificantDigits) {
   const PrecCase cases[] = {
-      {0.000123456, 3, 0.000123}, {123456.0, 2, 120000.0}, {-987.65, 4, -987.7},
-      {0.0, 5, 0.0},              {9.99, 2, 10.0},         {2.5, 1, 3.0},
-      {1e-310, 2, 1e-310},        {5e300, 9, 5e300},          {-1.23456789e-300, 3, -1.23e-300},
+      {0.000123456, 3, 0.000123},
+      {123456.0, 2, 120000.0},
+      {-987.65, 4, -987.7},
+      {0.0, 5, 0.0},
+      {9.99, 2, 10.0},
+      {2.5, 1, 3.0},
+      {1e-310, 2, 1e-310},
+      {5e300, 9, 5e300},
+      {-1.23456789e-300, 3, -1.23e-300},
   };
   for (const PrecCase& c : cases) {
-    EXPECT_NEAR(prec(c.x, c.n), c.expected, std::abs(c.expected) * 4e-16)
-        << c.x << " " << c.n;
+    EXPECT_NEAR(prec(c.x, c.n), c.expected, std::abs(c.expected) * 4e-16) << c.x << " " << c.n;
   }
   EXPECT_TRUE(std::isnan(prec(std::numeric_limits<double>::infinity(), 3)));
   kiln::math::clear_error_code();

@@ -21,7 +21,7 @@ struct UnaryCase {
 };
 
 class MathRuntimeNamesTest : public ::testing::Test {
- protected:
+protected:
   void SetUp() override {
 #ifndef KILNUTIL_SHARED_LIBRARY_FILE
     GTEST_SKIP() << "this build has no shared library with runtime-named exports";
@@ -55,10 +55,18 @@ TEST_F(MathRuntimeNamesTest, SqrtOfMinusOneGivesMissingValueAndCode) {
 
 TEST_F(MathRuntimeNamesTest, EveryRuntimeNameIsTheLibrarys) {
   const UnaryCase unary[] = {
-      {"log10", 0.0, kMissing},       {"log1p", -1.0, kMissing},   {"acos", 2.0, kMissing},
-      {"asin", -1.5, kMissing},       {"cosh", 1000.0, kMissing},  {"sinh", -1000.0, kMissing},
-      {"tan", kMissing, kMissing},    {"asinh", kMissing, kMissing}, {"acosh", 0.5, kMissing},
-      {"atanh", 1.0, kMissing},       {"ceil", HUGE_VAL, kMissing}, {"floor", -HUGE_VAL, kMissing},
+      {"log10", 0.0, kMissing},
+      {"log1p", -1.0, kMissing},
+      {"acos", 2.0, kMissing},
+      {"asin", -1.5, kMissing},
+      {"cosh", 1000.0, kMissing},
+      {"sinh", -1000.0, kMissing},
+      {"tan", kMissing, kMissing},
+      {"asinh", kMissing, kMissing},
+      {"acosh", 0.5, kMissing},
+      {"atanh", 1.0, kMissing},
+      {"ceil", HUGE_VAL, kMissing},
+      {"floor", -HUGE_VAL, kMissing},
       {"expm1", 1e-10, std::exp(1e-10) - 1.0},  // the runtime's expm1 is exact: 1.00000000005e-10
   };
   for (const UnaryCase& c : unary) {

@@ -19,15 +19,15 @@ struct SmithCase {
 
 TEST(SmithChart, ForwardMapping) {
   const SmithCase cases[] = {
-      {1, 0, 0, 0, 0},          // matched load at the centre
-      {0, 1, 0, 0, 1},          // pure inductance on the rim
-      {0, -1, 0, 0, -1},        // pure capacitance
-      {0, 0, 0, -1, 0},         // short circuit
+      {1, 0, 0, 0, 0},    // matched load at the centre
+      {0, 1, 0, 0, 1},    // pure inductance on the rim
+      {0, -1, 0, 0, -1},  // pure capacitance
+      {0, 0, 0, -1, 0},   // short circuit
       {3, 0, 0, 0.5, 0},
-      {-0.5, 0, 0, -3, 0},      // outside the chart without the flag
+      {-0.5, 0, 0, -3, 0},                              // outside the chart without the flag
       {-0.5, 0, KILNUTIL_SMITH_INVERT, -1.0 / 3.0, 0},  // reflected inside with it
       {0.5, 2, KILNUTIL_SMITH_INVERT, 0.52, 0.64},      // positive r is never reflected
-      {-1, 0, 0, kNanum, kNanum},  // the pole
+      {-1, 0, 0, kNanum, kNanum},                       // the pole
       {-1, 0, 1, kNanum, kNanum},
       {kNanum, 1, 0, kNanum, kNanum},
       {1, kNanum, 1, kNanum, kNanum},

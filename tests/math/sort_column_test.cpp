@@ -52,7 +52,10 @@ void expect_sorted_column(const Column& input, const Column& out, bool descendin
 }
 
 TEST(KilnMathSort, RandomColumnsWithDuplicatesBothOrders) {
-  struct Case { int n; int distinct; };
+  struct Case {
+    int n;
+    int distinct;
+  };
   const Case cases[] = {{1, 3}, {2, 2}, {5, 2}, {7, 3}, {8, 3}, {9, 4}, {50, 5}, {1000, 7}, {20000, 3}, {20000, 20000}};
   unsigned seed = 1;
   for (const Case& c : cases) {
@@ -154,7 +157,11 @@ std::vector<double> stack_exhausting_keys(int n) {
 }
 
 TEST(KilnMathSort, BuiltInputExhaustsTheStackAtTheMinimumSize) {
-  struct Case { int stack_entries; int n; int expected; };
+  struct Case {
+    int stack_entries;
+    int n;
+    int expected;
+  };
   // f(k) entries fill k + 1 pending ranges' worth of a 2k-entry stack; one less never does.
   const Case cases[] = {{2, 17, 1}, {2, 16, 0}, {6, 71, 1}, {6, 70, 0}, {12, 575, 1}, {12, 574, 0}};
   const auto ascending = [](double x, double y) { return x < y; };
@@ -162,9 +169,9 @@ TEST(KilnMathSort, BuiltInputExhaustsTheStackAtTheMinimumSize) {
     std::vector<double> keys = stack_exhausting_keys(c.n);
     std::vector<unsigned> rows(keys.size());
     const std::vector<double> input = keys;
-    EXPECT_EQ(kiln::math::sort_column_detail::quicksort_column(c.n, rows.data(), keys.data(), ascending,
-                                                               c.stack_entries),
-              c.expected)
+    EXPECT_EQ(
+        kiln::math::sort_column_detail::quicksort_column(c.n, rows.data(), keys.data(), ascending, c.stack_entries),
+        c.expected)
         << "n=" << c.n << " stack=" << c.stack_entries;
     // With the library's 50 entries the same input sorts completely.
     keys = input;

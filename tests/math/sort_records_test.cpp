@@ -17,7 +17,8 @@ namespace {
 // 1..4, and a filler derived from the position in the rest.
 class Records {
 public:
-  Records(int count, int size, unsigned seed) : size_(static_cast<std::size_t>(size)), bytes_(size_ * static_cast<std::size_t>(count)) {
+  Records(int count, int size, unsigned seed)
+      : size_(static_cast<std::size_t>(size)), bytes_(size_ * static_cast<std::size_t>(count)) {
     std::mt19937 random(seed);
     for (int i = 0; i < count; ++i) {
       unsigned char* r = at(i);
@@ -71,7 +72,11 @@ void quick_sort_synchronized_plain(void* base, int lo, int hi, int size, KilnSor
 }
 
 TEST(KilnRecordSorts, RecordSizesAndCountsAroundTheThresholds) {
-  struct Sorter { const char* name; void (*sort)(void*, int, int, int, KilnSortCompare); bool stable; };
+  struct Sorter {
+    const char* name;
+    void (*sort)(void*, int, int, int, KilnSortCompare);
+    bool stable;
+  };
   const Sorter sorters[] = {
       {"quick", KILNUTIL_HopefullyFasterQuickSort, false},
       {"synchronized", quick_sort_synchronized_plain, false},
@@ -95,8 +100,8 @@ TEST(KilnRecordSorts, RecordSizesAndCountsAroundTheThresholds) {
 // A range lo..hi relative to a base inside the array, lo negative: only the
 // range moves, and it ends sorted.
 TEST(KilnRecordSorts, SubrangeAroundTheBaseOnlyIsTouched) {
-  for (const auto sort : {KILNUTIL_HopefullyFasterQuickSort, quick_sort_synchronized_plain, KILNUTIL_MergeSort,
-                          KILNUTIL_InsertionSort}) {
+  for (const auto sort :
+       {KILNUTIL_HopefullyFasterQuickSort, quick_sort_synchronized_plain, KILNUTIL_MergeSort, KILNUTIL_InsertionSort}) {
     Records input(90, 8, 9);
     Records out = input;
     sort(out.at(40), -35, 44, 8, by_key);  // elements 5..84
@@ -119,7 +124,8 @@ TEST(KilnRecordSorts, CompanionArraysMoveInStep) {
       std::vector<unsigned char> column(static_cast<std::size_t>(count * companion_size));
       for (int i = 0; i < count; ++i) {
         for (int b = 0; b < companion_size; ++b) {
-          column[static_cast<std::size_t>(i * companion_size + b)] = static_cast<unsigned char>((i >> (8 * (b % 2))) + b);
+          column[static_cast<std::size_t>(i * companion_size + b)] =
+              static_cast<unsigned char>((i >> (8 * (b % 2))) + b);
         }
       }
       columns.push_back(std::move(column));
@@ -134,7 +140,8 @@ TEST(KilnRecordSorts, CompanionArraysMoveInStep) {
       const auto width = static_cast<std::size_t>(companion_sizes[c]);
       for (int i = 0; i < count; ++i) {
         ASSERT_EQ(std::memcmp(&columns[c][static_cast<std::size_t>(i) * width],
-                              &original[c][records.position(i) * width], width), 0)
+                              &original[c][records.position(i) * width], width),
+                  0)
             << "companion " << c << " row " << i;
       }
     }
@@ -185,18 +192,21 @@ TEST(KilnOrderedInsertion, LocateAndInsertMatchTheModel) {
 }
 
 TEST(KilnOrderedInsertion, EqualsAndEmptyRanges) {
-  struct Case { std::vector<int> range; int item; int slot; };
+  struct Case {
+    std::vector<int> range;
+    int item;
+    int slot;
+  };
   const Case cases[] = {
       {{1, 2, 2, 3}, 2, 3},  // ascending: after the equals
       {{3, 2, 2, 1}, 2, 1},  // descending: before the equals
       {{2, 2, 2}, 2, 3},     // all equal counts as ascending
-      {{}, 5, 0},
-      {{4}, 9, 1},
+      {{}, 5, 0},           {{4}, 9, 1},
   };
   for (const Case& c : cases) {
-    EXPECT_EQ(KILNUITL_locate(c.range.data(), &c.item, 0, static_cast<int>(c.range.size()) - 1, sizeof(int), 0,
-                              compare_ints),
-              c.slot);
+    EXPECT_EQ(
+        KILNUITL_locate(c.range.data(), &c.item, 0, static_cast<int>(c.range.size()) - 1, sizeof(int), 0, compare_ints),
+        c.slot);
   }
 }
 

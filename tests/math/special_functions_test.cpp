@@ -19,7 +19,6 @@ using special_test::Reference;
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInf = std::numeric_limits<double>::infinity();
 
-
 // A call that must fail: the missing value and the given error code.
 struct Failure {
   const char* what;
@@ -71,9 +70,13 @@ TEST(MathSpecialBeta, CompleteBetaAndItsRangeTest) {
 }
 
 TEST(MathSpecialBeta, BinomialCoefficient) {
-  struct Case { unsigned n, k; double value; };
-  const Case cases[] = {{5, 2, 10}, {1, 0, 1}, {0, 0, 1}, {52, 5, 2598960}, {30, 15, 155117520},
-                        {60, 30, 118264581564861424.0}, {3, 5, 0}};
+  struct Case {
+    unsigned n, k;
+    double value;
+  };
+  const Case cases[] = {{5, 2, 10},       {1, 0, 1},           {0, 0, 1},
+                        {52, 5, 2598960}, {30, 15, 155117520}, {60, 30, 118264581564861424.0},
+                        {3, 5, 0}};
   for (const Case& c : cases) {
     double out = -1;
     EXPECT_EQ(bico_export_ptr(c.n, c.k, &out), 0);
@@ -147,9 +150,14 @@ TEST(MathSpecialInverseErf, MatchesReferenceAfterOneHalleyStep) {
 }
 
 TEST(MathSpecialInverseErf, EndpointsSetTheirOwnCodes) {
-  struct Case { double y; unsigned code; };
-  const Case cases[] = {{1, KILNUTIL_MATH_ERR_INVERF_PLUS_ONE}, {-1, KILNUTIL_MATH_ERR_INVERF_MINUS_ONE},
-                        {1.5, KILNUTIL_MATH_ERR_NONE}, {KILNUTIL_NANUM, KILNUTIL_MATH_ERR_NONE}};
+  struct Case {
+    double y;
+    unsigned code;
+  };
+  const Case cases[] = {{1, KILNUTIL_MATH_ERR_INVERF_PLUS_ONE},
+                        {-1, KILNUTIL_MATH_ERR_INVERF_MINUS_ONE},
+                        {1.5, KILNUTIL_MATH_ERR_NONE},
+                        {KILNUTIL_NANUM, KILNUTIL_MATH_ERR_NONE}};
   for (const Case& c : cases) {
     incgamma(-1, 1);  // leaves code 1: inverf must clear it first
     EXPECT_EQ(inverf(c.y), KILNUTIL_NANUM) << c.y;
@@ -211,7 +219,11 @@ TEST(MathSpecialNormal, ProbabilitiesAndTheirInverse) {
 // Most routines clear the error code on entry; the five-term ln Γ and AS 241
 // never touch it, so a caller reading it after them sees an older code.
 TEST(MathSpecialErrorCode, WhichRoutinesClearIt) {
-  struct Case { const char* what; double (*call)(); unsigned code_after; };
+  struct Case {
+    const char* what;
+    double (*call)();
+    unsigned code_after;
+  };
   const Case cases[] = {
       {"beta", [] { return beta(2, 3); }, KILNUTIL_MATH_ERR_NONE},
       {"incgamma", [] { return incgamma(1, 2); }, KILNUTIL_MATH_ERR_NONE},

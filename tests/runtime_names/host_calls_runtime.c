@@ -35,8 +35,7 @@ int main(void) {
   double result = 0.0;
   const double base = 2.0;
   const double exponent = get_missing_value();
-  expect(KILNUTIL_safe_power(&result, &base, &exponent) == 1 && result == 1.0,
-         "the library's pow reaches the runtime");
+  expect(KILNUTIL_safe_power(&result, &base, &exponent) == 1 && result == 1.0, "the library's pow reaches the runtime");
   printf("runtime names: %s\n", failures ? "FAILED" : "ok");
   return failures ? 1 : 0;
 }

@@ -26,9 +26,14 @@ TEST(ToolBase64, KnownTextsAndWrapping) {
     std::string text;
   };
   const Case cases[] = {
-      {"", 76, ""},           {"f", 76, "Zg==\n"},       {"fo", 76, "Zm8=\n"},
-      {"foo", 76, "Zm9v\n"},  {"foob", 0, "Zm9vYg=="},   {"fooba", 3, "Zm9\nvYm\nE=\n"},
-      {"foobar", 4, "Zm9v\nYmFy\n"}, {"foobar", 1, "Z\nm\n9\nv\nY\nm\nF\ny\n"},
+      {"", 76, ""},
+      {"f", 76, "Zg==\n"},
+      {"fo", 76, "Zm8=\n"},
+      {"foo", 76, "Zm9v\n"},
+      {"foob", 0, "Zm9vYg=="},
+      {"fooba", 3, "Zm9\nvYm\nE=\n"},
+      {"foobar", 4, "Zm9v\nYmFy\n"},
+      {"foobar", 1, "Z\nm\n9\nv\nY\nm\nF\ny\n"},
   };
   for (const Case& c : cases) {
     for (std::size_t piece : {1, 2, 5, 64}) EXPECT_EQ(encode_in_pieces(c.bytes, c.wrap, piece), c.text) << c.bytes;

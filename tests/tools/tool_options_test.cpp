@@ -21,8 +21,8 @@ int parse(std::vector<std::string> words, kilnutil_cli::PreviewOptions& options)
 
 TEST(ToolPreviewOptions, AcceptedForms) {
   kilnutil_cli::PreviewOptions o;
-  ASSERT_EQ(parse({"f.csv", "--sep", "tab", "--decimal", ",", "--skip", "3", "--comment", "%", "--no-header",
-                   "--limit", "0", "--width", "10", "--ndjson", "-c", "cp1250", "--replace", "--force"},
+  ASSERT_EQ(parse({"f.csv", "--sep", "tab", "--decimal", ",", "--skip", "3", "--comment", "%", "--no-header", "--limit",
+                   "0", "--width", "10", "--ndjson", "-c", "cp1250", "--replace", "--force"},
                   o),
             0);
   EXPECT_EQ(o.path, "f.csv");

@@ -21,7 +21,7 @@ TEST(ToolUtf8Check, ValidPrefixAndReplacement) {
       {"a\xED\xA0\x80", 1, "a" + r + r + r},          // encoded surrogate
       {"a\xF4\x90\x80\x80", 1, "a" + r + r + r + r},  // past U+10FFFF
       {"a\xF5", 1, "a" + r},
-      {"a\xE2\x82", 1, "a" + r},                      // cut off: one replacement
+      {"a\xE2\x82", 1, "a" + r},  // cut off: one replacement
       {"a\xE2\x82z", 1, "a" + r + "z"},
       {"0123456789abcdef\x80", 16, "0123456789abcdef" + r},  // past the 8-byte fast path
   };
@@ -37,8 +37,12 @@ TEST(ToolUtf8Check, CodePointsAndJsonStrings) {
   const struct {
     char32_t code_point;
     const char* utf8;
-  } points[] = {{U'A', "A"}, {0x7FF, "\xDF\xBF"}, {0x800, "\xE0\xA0\x80"}, {0xFFFF, "\xEF\xBF\xBF"},
-                {0x10000, "\xF0\x90\x80\x80"}, {0x10FFFF, "\xF4\x8F\xBF\xBF"}};
+  } points[] = {{U'A', "A"},
+                {0x7FF, "\xDF\xBF"},
+                {0x800, "\xE0\xA0\x80"},
+                {0xFFFF, "\xEF\xBF\xBF"},
+                {0x10000, "\xF0\x90\x80\x80"},
+                {0x10FFFF, "\xF4\x8F\xBF\xBF"}};
   for (const auto& p : points) {
     std::string out;
     kilnutil_cli::append_code_point(p.code_point, out);

@@ -46,7 +46,7 @@ private:
 
   bool ignore_garbage_;
   std::uint64_t offset_ = 0;  // input characters seen
-  std::string clean_;          // alphabet and "=" characters not yet decoded
+  std::string clean_;         // alphabet and "=" characters not yet decoded
   std::string error_;
 };
 

@@ -21,8 +21,8 @@ namespace kilnutil_cli {
 
 namespace {
 
-constexpr std::string_view kModels[] = {"rgb", "html", "hsl", "hsv", "lab", "lch", "luv",
-                                        "xyz", "yxy", "cmy", "cmyk", "hunterlab"};
+constexpr std::string_view kModels[] = {"rgb", "html", "hsl", "hsv", "lab",  "lch",
+                                        "luv", "xyz",  "yxy", "cmy", "cmyk", "hunterlab"};
 constexpr int kMaxRampCount = 100000;
 
 bool is_model(std::string_view name) {
@@ -53,15 +53,51 @@ std::string model_values(std::string_view model, unsigned rgb) {
   using namespace ColorSpace;
   if (model == "rgb") return numbers({source.r, source.g, source.b});
   if (model == "html") return html_of(rgb);
-  if (model == "hsl") { Hsl t; t.FromRgb(source); return numbers({t.h, t.s, t.l}); }
-  if (model == "hsv") { Hsv t; t.FromRgb(source); return numbers({t.h, t.s, t.v}); }
-  if (model == "lab") { Lab t; t.FromRgb(source); return numbers({t.l, t.a, t.b}); }
-  if (model == "lch") { Lch t; t.FromRgb(source); return numbers({t.l, t.c, t.h}); }
-  if (model == "luv") { Luv t; t.FromRgb(source); return numbers({t.l, t.u, t.v}); }
-  if (model == "xyz") { Xyz t; t.FromRgb(source); return numbers({t.x, t.y, t.z}); }
-  if (model == "yxy") { Yxy t; t.FromRgb(source); return numbers({t.Y, t.x, t.y}); }
-  if (model == "cmy") { Cmy t; t.FromRgb(source); return numbers({t.c, t.m, t.y}); }
-  if (model == "cmyk") { Cmyk t; t.FromRgb(source); return numbers({t.c, t.m, t.y, t.k}); }
+  if (model == "hsl") {
+    Hsl t;
+    t.FromRgb(source);
+    return numbers({t.h, t.s, t.l});
+  }
+  if (model == "hsv") {
+    Hsv t;
+    t.FromRgb(source);
+    return numbers({t.h, t.s, t.v});
+  }
+  if (model == "lab") {
+    Lab t;
+    t.FromRgb(source);
+    return numbers({t.l, t.a, t.b});
+  }
+  if (model == "lch") {
+    Lch t;
+    t.FromRgb(source);
+    return numbers({t.l, t.c, t.h});
+  }
+  if (model == "luv") {
+    Luv t;
+    t.FromRgb(source);
+    return numbers({t.l, t.u, t.v});
+  }
+  if (model == "xyz") {
+    Xyz t;
+    t.FromRgb(source);
+    return numbers({t.x, t.y, t.z});
+  }
+  if (model == "yxy") {
+    Yxy t;
+    t.FromRgb(source);
+    return numbers({t.Y, t.x, t.y});
+  }
+  if (model == "cmy") {
+    Cmy t;
+    t.FromRgb(source);
+    return numbers({t.c, t.m, t.y});
+  }
+  if (model == "cmyk") {
+    Cmyk t;
+    t.FromRgb(source);
+    return numbers({t.c, t.m, t.y, t.k});
+  }
   HunterLab t;
   t.FromRgb(source);
   return numbers({t.l, t.a, t.b});
@@ -146,8 +182,9 @@ int run_color(Args args) {
   for (std::size_t i = 0; i < args.size(); ++i) {
     if (std::strcmp(args[i], "--to") == 0) {
       if (i + 1 >= args.size() || !is_model(args[i + 1])) {
-        return usage_error("color --to takes one of rgb, hsl, hsv, lab, lch, luv, xyz, yxy, cmy, cmyk, hunterlab, "
-                           "html, all");
+        return usage_error(
+            "color --to takes one of rgb, hsl, hsv, lab, lch, luv, xyz, yxy, cmy, cmyk, hunterlab, "
+            "html, all");
       }
       model = args[++i];
     } else if (args[i][0] == '-' && args[i][1] == '-') {
@@ -156,7 +193,8 @@ int run_color(Args args) {
       texts.push_back(args[i]);
     }
   }
-  if (texts.empty()) return usage_error("color takes one or more colour texts, --list or --ramp (see 'kilnutil help color')");
+  if (texts.empty())
+    return usage_error("color takes one or more colour texts, --list or --ramp (see 'kilnutil help color')");
 
   int result = kOk;
   for (const char* text : texts) {
@@ -167,7 +205,8 @@ int run_color(Args args) {
       continue;
     }
     for (std::string_view name : kModels) {
-      if (model == "all" || model == name) std::printf("%s\t%s\t%s\n", text, name.data(), model_values(name, rgb).c_str());
+      if (model == "all" || model == name)
+        std::printf("%s\t%s\t%s\n", text, name.data(), model_values(name, rgb).c_str());
     }
   }
   return result;

@@ -87,7 +87,8 @@ int convert(Args rest) {
 
 int step(const DateCommand& c) {
   double count = 0;
-  if (c.rest.size() != 3 || !parse_number(c.rest[0], &count) || std::strlen(c.rest[1]) != 1) return usage_error(kDateUsage);
+  if (c.rest.size() != 3 || !parse_number(c.rest[0], &count) || std::strlen(c.rest[1]) != 1)
+    return usage_error(kDateUsage);
   unsigned unit = step_unit_code(c.rest[1][0]);
   if (unit == 0) return usage_error("the unit is d, m, q or y");
   double value = KILNUTIL_str2date(c.rest[2]);
@@ -107,11 +108,13 @@ int run_date(Args args) {
   if (c.rest.size() >= 2 && std::strcmp(c.rest[0], "--system") == 0) {
     c.system = c.rest[1];
     c.rest = c.rest.subspan(2);
-    if (is_missing_value(GetDateOffset("Active", c.system))) return usage_error(std::string("unknown date system: ") + c.system);
+    if (is_missing_value(GetDateOffset("Active", c.system)))
+      return usage_error(std::string("unknown date system: ") + c.system);
   }
   if (c.rest.empty()) return usage_error(kDateUsage);
   const std::string mode = c.rest[0];
-  if (mode == "--convert") return c.system == std::string("Vela-JulianDate") ? convert(c.rest.subspan(1)) : usage_error(kDateUsage);
+  if (mode == "--convert")
+    return c.system == std::string("Vela-JulianDate") ? convert(c.rest.subspan(1)) : usage_error(kDateUsage);
   if (mode == "--to-date") return to_date({c.system, c.rest.subspan(1)});
   if (mode == "--step") return step({c.system, c.rest.subspan(1)});
   return to_value(c);

@@ -89,7 +89,8 @@ int run_invert(Args args) {
   if (const std::string problem = read_matrix(text, matrix, order); !problem.empty()) {
     return input_error(name + ": " + problem);
   }
-  const int result = KilnMath_Inverse(static_cast<unsigned short>(order), matrix.data(), KILNUTIL_INVERSE_MODE_IN_PLACE);
+  const int result =
+      KilnMath_Inverse(static_cast<unsigned short>(order), matrix.data(), KILNUTIL_INVERSE_MODE_IN_PLACE);
   if (result == KILNUTIL_INVERSE_SINGULAR) return input_error(name + ": singular");
   if (result != KILNUTIL_INVERSE_OK) return input_error(name + ": cannot invert");
   for (int i = 0; i < order; ++i) {

@@ -61,7 +61,11 @@ bool is_comment(std::string_view record, char comment) {
 class PreviewRun {
 public:
   PreviewRun(InputFile& input, const PreviewOptions& options, OutputFile* output)
-      : input_(input), options_(options), output_(output), decoder_(input, options.decode), reader_(decoder_),
+      : input_(input),
+        options_(options),
+        output_(output),
+        decoder_(input, options.decode),
+        reader_(decoder_),
         progress_("preview", input.size()) {}
 
   int run();

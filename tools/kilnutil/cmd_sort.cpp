@@ -28,8 +28,8 @@ namespace {
 struct SortOptions {
   std::string path = "-";
   bool descending = false;
-  int column = 1;      // 1-based
-  int separator = 0;   // 0: found from the text
+  int column = 1;     // 1-based
+  int separator = 0;  // 0: found from the text
 };
 
 bool parse_column(const char* text, int& column) {
@@ -94,8 +94,8 @@ bool read_records(InputFile& input, std::vector<std::string>& records, std::stri
 // from the data either way.
 char choose_layout(const std::vector<std::string>& records, int asked) {
   constexpr std::size_t kHeadLines = 50;
-  const std::vector<std::string> head(records.begin(),
-                                      records.begin() + static_cast<std::ptrdiff_t>(std::min(kHeadLines, records.size())));
+  const std::vector<std::string> head(
+      records.begin(), records.begin() + static_cast<std::ptrdiff_t>(std::min(kHeadLines, records.size())));
   const char separator = asked != 0 ? static_cast<char>(asked) : choose_separator(head).separator;
   set_decimal_mark(choose_decimal(head, separator).mark);
   return separator;

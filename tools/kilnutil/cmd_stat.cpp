@@ -48,48 +48,98 @@ const StatFunction kFunctions[] = {
     {"gammaln", "X", {R}, 1, [](const double* a) { return gammaln(a[0]); }, "ln Gamma(x), five-term series"},
     {"lngamma", "X", {R}, 1, [](const double* a) { return gammln_export(a[0]); }, "ln Gamma(x), six-term series"},
     {"beta", "A B", {R, R}, 2, [](const double* a) { return beta(a[0], a[1]); }, "complete beta B(a, b)"},
-    {"binomial", "N K", {U, U}, 2,
+    {"binomial",
+     "N K",
+     {U, U},
+     2,
      [](const double* a) {
        double out = 0;
        bico_export_ptr(as_unsigned(a[0]), as_unsigned(a[1]), &out);
        return out;
      },
      "binomial coefficient n over k"},
-    {"incgamma", "X A", {R, R}, 2, [](const double* a) { return incgamma(a[0], a[1]); },
+    {"incgamma",
+     "X A",
+     {R, R},
+     2,
+     [](const double* a) { return incgamma(a[0], a[1]); },
      "regularised lower incomplete gamma P(a, x)"},
-    {"incbeta", "X A B", {R, R, R}, 3, [](const double* a) { return incbeta(a[0], a[1], a[2]); },
+    {"incbeta",
+     "X A B",
+     {R, R, R},
+     3,
+     [](const double* a) { return incbeta(a[0], a[1], a[2]); },
      "regularised incomplete beta I_x(a, b)"},
     {"erf", "X", {R}, 1, [](const double* a) { return error_func_export(a[0]); }, "error function"},
     {"inverf", "Y", {R}, 1, [](const double* a) { return inverf(a[0]); }, "inverse error function"},
-    {"normal-cdf", "X", {R}, 1, [](const double* a) { return KILNUTIL_cum_gauss_plus_one(a[0]) / 2; },
+    {"normal-cdf",
+     "X",
+     {R},
+     1,
+     [](const double* a) { return KILNUTIL_cum_gauss_plus_one(a[0]) / 2; },
      "standard normal lower tail"},
     {"normal-quantile", "P", {R}, 1, [](const double* a) { return invncp(a[0]); }, "normal quantile (AS 241)"},
-    {"normal-quantile-acklam", "P", {R}, 1, [](const double* a) { return invncp2(a[0]); },
+    {"normal-quantile-acklam",
+     "P",
+     {R},
+     1,
+     [](const double* a) { return invncp2(a[0]); },
      "normal quantile (Acklam, about 1e-9)"},
-    {"normal-quantile-inverf", "P", {R}, 1, [](const double* a) { return invncp1(a[0]); },
+    {"normal-quantile-inverf",
+     "P",
+     {R},
+     1,
+     [](const double* a) { return invncp1(a[0]); },
      "normal quantile as sqrt(2) inverf(2p - 1)"},
     {"prob", "X", {R}, 1, [](const double* a) { return prob(a[0]); }, "two-sided normal probability erf(x/sqrt(2))"},
     {"t-cdf", "T DF", {R, I}, 2, [](const double* a) { return invt(a[0], as_int(a[1])); }, "Student t lower tail"},
-    {"t-quantile", "P DF", {R, I}, 2, [](const double* a) { return tTable(a[0], as_int(a[1])); },
-     "Student t quantile"},
-    {"f-cdf", "F DF1 DF2", {R, I, I}, 3, [](const double* a) { return invf(a[0], as_int(a[1]), as_int(a[2])); },
+    {"t-quantile", "P DF", {R, I}, 2, [](const double* a) { return tTable(a[0], as_int(a[1])); }, "Student t quantile"},
+    {"f-cdf",
+     "F DF1 DF2",
+     {R, I, I},
+     3,
+     [](const double* a) { return invf(a[0], as_int(a[1]), as_int(a[2])); },
      "F lower tail"},
-    {"f-quantile", "P DF1 DF2", {R, U, U}, 3,
-     [](const double* a) { return Ftable(a[0], as_unsigned(a[1]), as_unsigned(a[2])); }, "F quantile"},
-    {"chisq-cdf", "X DF", {R, U}, 2, [](const double* a) { return invchisq(a[0], as_unsigned(a[1])); },
+    {"f-quantile",
+     "P DF1 DF2",
+     {R, U, U},
+     3,
+     [](const double* a) { return Ftable(a[0], as_unsigned(a[1]), as_unsigned(a[2])); },
+     "F quantile"},
+    {"chisq-cdf",
+     "X DF",
+     {R, U},
+     2,
+     [](const double* a) { return invchisq(a[0], as_unsigned(a[1])); },
      "chi-square lower tail"},
-    {"chisq-upper", "X DF", {R, R}, 2,
+    {"chisq-upper",
+     "X DF",
+     {R, R},
+     2,
      [](const double* a) {
        double out = 0;
        chisquare_prob_Q_export_ptr(&out, a[0], a[1]);
        return out;
      },
      "chi-square upper tail"},
-    {"chisq-quantile", "P DF", {R, U}, 2, [](const double* a) { return ChisqDist(a[0], as_unsigned(a[1])); },
-     "chi-square quantile", true},
-    {"round", "X N", {R, I}, 2, [](const double* a) { return KILNUTIL_mround(a[0], as_int(a[1])); },
+    {"chisq-quantile",
+     "P DF",
+     {R, U},
+     2,
+     [](const double* a) { return ChisqDist(a[0], as_unsigned(a[1])); },
+     "chi-square quantile",
+     true},
+    {"round",
+     "X N",
+     {R, I},
+     2,
+     [](const double* a) { return KILNUTIL_mround(a[0], as_int(a[1])); },
      "x rounded to n decimal places"},
-    {"prec", "X N", {R, I}, 2, [](const double* a) { return prec(a[0], as_int(a[1])); },
+    {"prec",
+     "X N",
+     {R, I},
+     2,
+     [](const double* a) { return prec(a[0], as_int(a[1])); },
      "x rounded to n significant digits"},
 };
 
@@ -146,7 +196,8 @@ int run_stat(Args args) {
     return usage_error("stat: unknown function '" + std::string(args[0]) + "' (see 'kilnutil stat --list')");
   }
   const std::string usage = std::string("stat ") + function->name + " " + function->arguments;
-  if (args.size() - 1 != function->count) return usage_error(usage + ": takes " + std::to_string(function->count) + " argument(s)");
+  if (args.size() - 1 != function->count)
+    return usage_error(usage + ": takes " + std::to_string(function->count) + " argument(s)");
   double values[kMostArguments] = {};
   for (std::size_t i = 0; i < function->count; ++i) {
     if (!parse_argument(args[i + 1], function->kinds[i], values[i])) {
@@ -162,7 +213,7 @@ int run_stat(Args args) {
   }
   const unsigned code = get_error_code();
   std::printf("%s\n", KILNUTIL_get_missing_as_text(nullptr));
-  const std::string reason = std::isnan(result)          ? "not a number"
+  const std::string reason = std::isnan(result)         ? "not a number"
                              : result == KILNUTIL_NANUM ? error_reason(code)
                                                         : "argument out of range or no convergence";
   return input_error(std::string("stat ") + function->name + ": no value, math error code " + std::to_string(code) +

@@ -149,7 +149,8 @@ void split_fields(std::string_view record, char separator, std::vector<std::stri
   }
   for (std::size_t start = 0;;) {
     // A double quote opens a quoted field only at the field's start.
-    const std::size_t after_quotes = start < record.size() && record[start] == '"' ? quoted_field_end(record, start) : start;
+    const std::size_t after_quotes =
+        start < record.size() && record[start] == '"' ? quoted_field_end(record, start) : start;
     const std::size_t end = record.find(separator, after_quotes);
     if (end == std::string_view::npos) {
       fields.push_back(record.substr(start));

@@ -115,7 +115,8 @@ unsigned locale_code_page() {
   const char* locale = std::setlocale(LC_CTYPE, nullptr);
   std::string_view name = locale != nullptr ? locale : "C";
   const std::size_t dot = name.find('.');
-  std::string codeset = dot == std::string_view::npos ? "" : folded(name.substr(dot + 1, name.find('@', dot) - dot - 1));
+  std::string codeset =
+      dot == std::string_view::npos ? "" : folded(name.substr(dot + 1, name.find('@', dot) - dot - 1));
   if (codeset == "utf8") return 65001;
   if (codeset == "sjis" || codeset == "shiftjis" || codeset == "eucjp") return 932;
   if (codeset == "gbk" || codeset == "gb2312" || codeset == "gb18030" || codeset == "euccn") return 936;

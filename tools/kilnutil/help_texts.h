@@ -35,7 +35,8 @@ inline constexpr const char kPreviewHelp[] =
     "  --date-values        show the date value of ISO dates beside them (in --csv/--ndjson: instead)\n"
     "  --json               one JSON document with the rows and what was detected\n"
     "  --ndjson             one JSON object per row, keyed by column name\n"
-    "  --csv                the selected rows and columns as UTF-8 CSV, numbers as read\n" KILNUTIL_CLI_TEXT_OPTIONS_HELP
+    "  --csv                the selected rows and columns as UTF-8 CSV, numbers as "
+    "read\n" KILNUTIL_CLI_TEXT_OPTIONS_HELP
     "examples:\n"
     "  kilnutil preview examples/precipitation_cp1252.csv --rows \"2:0 ~5\" --cols \"1 3\"\n"
     "  kilnutil preview data.txt --sep ';' --decimal . --skip 2 --csv > clean.csv";

@@ -25,8 +25,8 @@ constexpr Command kCommands[] = {
      "date values in any date system, --convert V FROM TO, --step N d|m|q|y DATE", run_date, kDateHelp},
     {"detect", "[--json] FILE...", "encoding of each file: the library's code, and what the whole file reads as",
      run_detect, kDetectHelp},
-    {"to-utf8", "[FILE|-] [-o OUT] [-c CODEPAGE] [--replace] [--force]", "a text file's contents as UTF-8",
-     run_to_utf8, kToUtf8Help},
+    {"to-utf8", "[FILE|-] [-o OUT] [-c CODEPAGE] [--replace] [--force]", "a text file's contents as UTF-8", run_to_utf8,
+     kToUtf8Help},
     {"base64", "[-d] [-i] [-w COLS] [FILE|-]", "Base64 of a file, or with -d the bytes of Base64 text", run_base64,
      kBase64Help},
     {"fn", "NAME [ARG...] [--unit rad|deg|grad] | --list", "evaluate a script math function by name, or list them",
@@ -85,8 +85,7 @@ constexpr Command kCommands[] = {
      "NAME     the section (case blind); \"\" the text before the first header; none: the whole file\n"
      "--list   each header's line number (from 1) and name\n"
      "example: kilnutil section settings.ini General"},
-    {"strip-comments", "[FILE|-]", "script text without its comments; the line count on stderr",
-     run_strip_comments,
+    {"strip-comments", "[FILE|-]", "script text without its comments; the line count on stderr", run_strip_comments,
      "FILE     the script (UTF-8); - or none: standard input\n"
      "example: kilnutil strip-comments script.qs"},
     {"path", "check|split PATH...", "path syntax codes, or folder, name and extension", run_path,
@@ -103,7 +102,8 @@ constexpr Command kCommands[] = {
 std::span<const Command> commands() { return kCommands; }
 
 void print_command_help(const Command& command) {
-  std::printf("usage: kilnutil %s%s%s\n\n%s\n", command.name, *command.usage ? " " : "", command.usage, command.summary);
+  std::printf("usage: kilnutil %s%s%s\n\n%s\n", command.name, *command.usage ? " " : "", command.usage,
+              command.summary);
   if (*command.help) std::printf("\n%s\n", command.help);
 }
 
@@ -134,8 +134,9 @@ int run_help(Args args) {
   }
   std::cout << "usage: kilnutil COMMAND [ARGUMENTS]\n\ncommands:\n";
   for (const Command& command : commands()) std::printf("  %-10s %s\n", command.name, command.summary);
-  std::printf("\n'kilnutil help COMMAND' (or COMMAND --help) shows a command's options and examples;\n"
-              "'kilnutil help requests' the row and column requests of preview.\n");
+  std::printf(
+      "\n'kilnutil help COMMAND' (or COMMAND --help) shows a command's options and examples;\n"
+      "'kilnutil help requests' the row and column requests of preview.\n");
   return kOk;
 }
 

@@ -95,7 +95,8 @@ void append_number(double value, std::string& out) {
   // Whole numbers below 2^53 print as integers, the shortest form already.
   constexpr double kExactIntegers = 9007199254740992.0;
   const bool whole = value > -kExactIntegers && value < kExactIntegers &&
-                     value == static_cast<double>(static_cast<long long>(value)) && !(value == 0 && std::signbit(value));
+                     value == static_cast<double>(static_cast<long long>(value)) &&
+                     !(value == 0 && std::signbit(value));
   const auto result = whole ? std::to_chars(buffer, buffer + sizeof buffer, static_cast<long long>(value))
                             : std::to_chars(buffer, buffer + sizeof buffer, value);
   out.append(buffer, result.ptr);

@@ -20,7 +20,8 @@ std::string request_problem(const std::string& request) {
     return "longer than " + std::to_string(KILNUTIL_PARTIAL_REQUEST_SIZE - 1) + " characters";
   }
   ImportFilesPartialParts parts;
-  if (!parts.Parse(request.c_str())) return "no item such as 3, 2:10, 2:0, ~5 or 1:0|2-3 (see 'kilnutil help requests')";
+  if (!parts.Parse(request.c_str()))
+    return "no item such as 3, 2:10, 2:0, ~5 or 1:0|2-3 (see 'kilnutil help requests')";
   return "";
 }
 
@@ -72,12 +73,15 @@ int parse_preview_options(Args args, PreviewOptions& options) {
         return usage_error("--limit needs a count of rows (0 for all)");
       }
     } else if (arg == "--skip") {
-      if (!parse_count<std::uint64_t>(value, options.skip, 0, UINT64_MAX)) return usage_error("--skip needs a count of lines");
+      if (!parse_count<std::uint64_t>(value, options.skip, 0, UINT64_MAX))
+        return usage_error("--skip needs a count of lines");
     } else if (arg == "--width") {
-      if (!parse_count<std::size_t>(value, options.width, 2, 100000)) return usage_error("--width needs a count of 2 or more");
+      if (!parse_count<std::size_t>(value, options.width, 2, 100000))
+        return usage_error("--width needs a count of 2 or more");
     } else if (arg == "--sep") {
       options.separator = separator_of(value);
-      if (!options.separator) return usage_error("--sep takes one ASCII character, tab, blank or none (got '" + value + "')");
+      if (!options.separator)
+        return usage_error("--sep takes one ASCII character, tab, blank or none (got '" + value + "')");
     } else if (arg == "--decimal") {
       if (value != "." && value != ",") return usage_error("--decimal takes . or , (got '" + value + "')");
       options.decimal = value[0];
@@ -92,7 +96,8 @@ int parse_preview_options(Args args, PreviewOptions& options) {
       return usage_error("preview takes one file (got '" + options.path + "' and '" + arg + "')");
     }
   }
-  if (options.path.empty()) return usage_error("preview needs a file, or - for standard input (see 'kilnutil help preview')");
+  if (options.path.empty())
+    return usage_error("preview needs a file, or - for standard input (see 'kilnutil help preview')");
   return kOk;
 }
 

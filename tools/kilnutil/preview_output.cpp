@@ -18,9 +18,8 @@ constexpr std::size_t kRowsForWidths = 200;
 std::string missing_text() { return KILNUTIL_get_missing_as_text(nullptr); }
 
 std::size_t code_points(std::string_view text) {
-  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) {
-    return (static_cast<unsigned char>(c) & 0xC0u) != 0x80u;
-  }));
+  return static_cast<std::size_t>(
+      std::count_if(text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0u) != 0x80u; }));
 }
 
 // The text cut to width code points, the last one "…" when cut.
@@ -87,15 +86,15 @@ public:
     flush_waiting();
     std::string file;
     append_replacing_invalid(display_name(options_.path), file);
-    out_ += "\nfile       " + file + "\nencoding   " + s.encoding + "\nseparator  " +
-            s.separator + " (" + s.separator_reason + ")\ndecimal    \"" + s.decimal + "\" (" + s.decimal_reason +
-            ")\nheader     " + (s.header_line ? "line " + std::to_string(s.header_line) : std::string("none")) +
-            "\nlines      " + std::to_string(s.lines) + "\nfields     " + std::to_string(s.fields) + "\nrows       " +
+    out_ += "\nfile       " + file + "\nencoding   " + s.encoding + "\nseparator  " + s.separator + " (" +
+            s.separator_reason + ")\ndecimal    \"" + s.decimal + "\" (" + s.decimal_reason + ")\nheader     " +
+            (s.header_line ? "line " + std::to_string(s.header_line) : std::string("none")) + "\nlines      " +
+            std::to_string(s.lines) + "\nfields     " + std::to_string(s.fields) + "\nrows       " +
             (options_.rows.empty() ? "all" : options_.rows) + " (" + std::to_string(s.wanted) + " wanted, " +
             std::to_string(s.shown) + " shown)\ncolumns    " + (options_.cols.empty() ? "all" : options_.cols) + "\n";
     if (s.titles + s.skipped + s.comments > 0) {
-      out_ += "skipped    " + std::to_string(s.skipped) + " by --skip, " + std::to_string(s.titles) +
-              " title lines, " + std::to_string(s.comments) + " comment or blank lines\n";
+      out_ += "skipped    " + std::to_string(s.skipped) + " by --skip, " + std::to_string(s.titles) + " title lines, " +
+              std::to_string(s.comments) + " comment or blank lines\n";
     }
     if (s.ragged > 0) out_ += "ragged     " + std::to_string(s.ragged) + " rows with another field count\n";
   }
@@ -181,12 +180,12 @@ public:
 
   void end(const PreviewSummary& s) override {
     out_ += "],\"encoding\":" + json_string(s.encoding) + ",\"separator\":" + json_string(s.separator) +
-            ",\"separator_reason\":" + json_string(s.separator_reason) + ",\"decimal_separator\":" +
-            json_string(std::string(1, s.decimal)) + ",\"header_line\":" +
-            (s.header_line ? std::to_string(s.header_line) : "null") + ",\"lines\":" + std::to_string(s.lines) +
-            ",\"fields\":" + std::to_string(s.fields) + ",\"rows_request\":" + json_string(options_.rows) +
-            ",\"cols_request\":" + json_string(options_.cols) + ",\"wanted_rows\":" + std::to_string(s.wanted) +
-            ",\"shown_rows\":" + std::to_string(s.shown) + "}\n";
+            ",\"separator_reason\":" + json_string(s.separator_reason) +
+            ",\"decimal_separator\":" + json_string(std::string(1, s.decimal)) +
+            ",\"header_line\":" + (s.header_line ? std::to_string(s.header_line) : "null") +
+            ",\"lines\":" + std::to_string(s.lines) + ",\"fields\":" + std::to_string(s.fields) +
+            ",\"rows_request\":" + json_string(options_.rows) + ",\"cols_request\":" + json_string(options_.cols) +
+            ",\"wanted_rows\":" + std::to_string(s.wanted) + ",\"shown_rows\":" + std::to_string(s.shown) + "}\n";
   }
 
 private:
@@ -201,7 +200,8 @@ std::vector<std::string> unique_names(const std::vector<PreviewColumn>& columns)
   std::vector<std::string> names;
   for (const PreviewColumn& column : columns) {
     std::string name = column.name;
-    if (std::find(names.begin(), names.end(), name) != names.end()) name += " (" + std::to_string(column.index + 1) + ")";
+    if (std::find(names.begin(), names.end(), name) != names.end())
+      name += " (" + std::to_string(column.index + 1) + ")";
     names.push_back(name);
   }
   return names;

@@ -19,7 +19,7 @@ struct PreviewColumn {
 };
 
 struct PreviewRow {
-  std::uint64_t number = 0;     // 1-based record number in the file
+  std::uint64_t number = 0;      // 1-based record number in the file
   std::vector<CellValue> cells;  // one per column
 };
 

@@ -18,8 +18,11 @@ bool stderr_is_terminal() {
 }
 
 Progress::Progress(std::string label, std::uint64_t total)
-    : label_(std::move(label)), total_(total), enabled_(stderr_is_terminal()),
-      start_(std::chrono::steady_clock::now()), last_(start_) {}
+    : label_(std::move(label)),
+      total_(total),
+      enabled_(stderr_is_terminal()),
+      start_(std::chrono::steady_clock::now()),
+      last_(start_) {}
 
 Progress::~Progress() {
   if (shown_) std::fprintf(stderr, "\r\033[K");

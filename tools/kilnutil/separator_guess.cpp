@@ -18,9 +18,9 @@ constexpr int kLibraryLines = 10;
 constexpr char kCandidates[] = {',', ';', '\t', '|', kBlankSeparator};
 
 struct FieldCounts {
-  int mode = 1;       // the count most lines share
-  int agreeing = 0;   // lines with that count
-  int single = 0;     // lines with one field
+  int mode = 1;      // the count most lines share
+  int agreeing = 0;  // lines with that count
+  int single = 0;    // lines with one field
 };
 
 FieldCounts count_fields(const std::vector<std::string>& lines, char separator) {
@@ -113,9 +113,9 @@ SeparatorChoice choose_separator(const std::vector<std::string>& lines) {
       choice.separator = candidate;
     }
   }
-  const std::string library_said = library == 0 ? "the library found no separator"
-                                                 : "the library's guess " + separator_name(library) +
-                                                       " leaves most lines with one field";
+  const std::string library_said =
+      library == 0 ? "the library found no separator"
+                   : "the library's guess " + separator_name(library) + " leaves most lines with one field";
   if (choice.separator == 0) {
     choice.reason = library_said + ", and no candidate gives lines more than one field";
     return choice;

@@ -146,9 +146,10 @@ bool TextDecoder::start() {
   const std::string path = input_.name() == "-" ? "" : input_.name();
   const unsigned examined = KILNUTIL_DetectEncoding_GetBufSizeFromFilePath(path.c_str());
   const std::size_t count = examined == 0 ? pending_.size() : std::min<std::size_t>(pending_.size(), examined);
-  detected_code_ = pending_.empty() ? KILNUTIL_ENCODING_NONE
-                                    : KILNUTIL_DetectEncodingBuffer(reinterpret_cast<const unsigned char*>(pending_.data()),
-                                                                    static_cast<unsigned>(count), 0);
+  detected_code_ = pending_.empty()
+                       ? KILNUTIL_ENCODING_NONE
+                       : KILNUTIL_DetectEncodingBuffer(reinterpret_cast<const unsigned char*>(pending_.data()),
+                                                       static_cast<unsigned>(count), 0);
   choose_mode();
   consume(mark_size_);
   return options_.force || !refuse_binary_head();

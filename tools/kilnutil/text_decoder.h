@@ -66,8 +66,8 @@ private:
   std::size_t mark_size_ = 0;
   std::string note_;
   std::string error_;
-  std::string pending_;                 // raw bytes not yet decoded
-  std::uint64_t pending_offset_ = 0;    // input offset of pending_[0]
+  std::string pending_;               // raw bytes not yet decoded
+  std::uint64_t pending_offset_ = 0;  // input offset of pending_[0]
   bool at_end_ = false;
 };
 

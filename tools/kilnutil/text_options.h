@@ -17,10 +17,10 @@ enum class OptionMatch { kNotMine, kTaken, kWrong };
 OptionMatch take_text_option(Args args, std::size_t& at, DecodeOptions& options, std::string& problem);
 
 // Their help lines.
-#define KILNUTIL_CLI_TEXT_OPTIONS_HELP                                                                  \
-  "  -c, --codepage NAME  read the text in this encoding: 1252, cp1252, windows-1252, shift_jis,\n"    \
-  "                       gbk, big5, euc-kr, utf-8, utf-16le, utf-32be, ... (default: detected)\n"     \
-  "  --force              read input that looks binary (NUL or control bytes) as text\n"               \
+#define KILNUTIL_CLI_TEXT_OPTIONS_HELP                                                              \
+  "  -c, --codepage NAME  read the text in this encoding: 1252, cp1252, windows-1252, shift_jis,\n" \
+  "                       gbk, big5, euc-kr, utf-8, utf-16le, utf-32be, ... (default: detected)\n"  \
+  "  --force              read input that looks binary (NUL or control bytes) as text\n"            \
   "  --replace            write U+FFFD for invalid input instead of stopping with an error\n"
 
 }  // namespace kilnutil_cli
