@@ -102,7 +102,7 @@ private:
 };
 
 void finish(benchmark::State& state, size_t bytes) {
-  state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * static_cast<int64_t>(bytes));
+  state.SetBytesProcessed(state.iterations() * static_cast<int64_t>(bytes));
 }
 
 std::string encoded_sample(size_t n) {

@@ -42,7 +42,7 @@ const Sample& sample(int kind) {
 }
 
 void finish(benchmark::State& state, const Sample& s) {
-  state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * static_cast<int64_t>(s.text.size()));
+  state.SetBytesProcessed(state.iterations() * static_cast<int64_t>(s.text.size()));
   state.SetLabel(s.iconv_name);
 }
 

@@ -45,7 +45,7 @@ void BM_ValueToFields(benchmark::State& state) {
       benchmark::DoNotOptimize(t);
     }
   }
-  state.SetItemsProcessed(static_cast<int64_t>(state.iterations()) * static_cast<int64_t>(kDates));
+  state.SetItemsProcessed(state.iterations() * static_cast<int64_t>(kDates));
 }
 
 void BM_FieldsToValue(benchmark::State& state) {
@@ -56,7 +56,7 @@ void BM_FieldsToValue(benchmark::State& state) {
       benchmark::DoNotOptimize(value);
     }
   }
-  state.SetItemsProcessed(static_cast<int64_t>(state.iterations()) * static_cast<int64_t>(kDates));
+  state.SetItemsProcessed(state.iterations() * static_cast<int64_t>(kDates));
 }
 
 // The reference: the same split of day and time of day, the day through the
@@ -74,7 +74,7 @@ void BM_ChronoValueToFields(benchmark::State& state) {
       benchmark::DoNotOptimize(time);
     }
   }
-  state.SetItemsProcessed(static_cast<int64_t>(state.iterations()) * static_cast<int64_t>(kDates));
+  state.SetItemsProcessed(state.iterations() * static_cast<int64_t>(kDates));
 }
 
 void BM_ChronoFieldsToValue(benchmark::State& state) {
@@ -84,11 +84,11 @@ void BM_ChronoFieldsToValue(benchmark::State& state) {
     for (const SYSTEMTIME& t : records()) {
       const sys_days day{year{t.wYear} / month{t.wMonth} / std::chrono::day{t.wDay}};
       const double seconds = (t.wHour * 60.0 + t.wMinute) * 60.0 + t.wSecond + t.wMilliseconds / 1000.0;
-      value = (day.time_since_epoch().count() - kDaysFrom1970To18991230) + kDefaultOffset + seconds / 86400.0;
+      value = static_cast<double>(day.time_since_epoch().count() - kDaysFrom1970To18991230) + kDefaultOffset + seconds / 86400.0;
       benchmark::DoNotOptimize(value);
     }
   }
-  state.SetItemsProcessed(static_cast<int64_t>(state.iterations()) * static_cast<int64_t>(kDates));
+  state.SetItemsProcessed(state.iterations() * static_cast<int64_t>(kDates));
 }
 
 BENCHMARK(BM_ValueToFields)->Name("date_convert/JulianDateToSystemTime");

@@ -50,7 +50,7 @@ bool plain_validator(const unsigned char* p, size_t n) {
 }
 
 void finish(benchmark::State& state, const std::string& text) {
-  state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * static_cast<int64_t>(text.size()));
+  state.SetBytesProcessed(state.iterations() * static_cast<int64_t>(text.size()));
   state.SetLabel(kKindNames[state.range(0)]);
 }
 

@@ -57,7 +57,7 @@ const std::string& sectioned_file(bool mark) {
 }
 
 void set_file_bytes(benchmark::State& state, const std::string& path) {
-  state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) *
+  state.SetBytesProcessed(state.iterations() *
                           static_cast<int64_t>(std::filesystem::file_size(path)));
 }
 
@@ -103,7 +103,7 @@ const std::string& script() {
 }
 
 void set_script_bytes(benchmark::State& state) {
-  state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * static_cast<int64_t>(script().size()));
+  state.SetBytesProcessed(state.iterations() * static_cast<int64_t>(script().size()));
 }
 
 // The reference: every character of the same string source, no comment logic.

@@ -36,7 +36,7 @@ void run(benchmark::State& state, Function function) {
     for (double x : v) sum += function(x);
     benchmark::DoNotOptimize(sum);
   }
-  state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations()) * static_cast<std::int64_t>(v.size()));
+  state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(v.size()));
 }
 
 void BM_RoundPlaces_Kilnutil(benchmark::State& state) {

@@ -53,7 +53,7 @@ void over_inputs(benchmark::State& state, const std::vector<double>& inputs, F f
   for (auto _ : state) {
     for (const double v : inputs) benchmark::DoNotOptimize(f(v));
   }
-  state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations()) * static_cast<std::int64_t>(inputs.size()));
+  state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(inputs.size()));
 }
 
 constexpr int kDf = 12;

@@ -90,7 +90,7 @@ void BM_ParseColumn(benchmark::State& state) {
     for (std::size_t start : copy.starts) sum += Parse(copy.bytes.data() + start);
     benchmark::DoNotOptimize(sum);
   }
-  state.SetItemsProcessed(static_cast<int64_t>(state.iterations()) * static_cast<int64_t>(kTexts));
+  state.SetItemsProcessed(state.iterations() * static_cast<int64_t>(kTexts));
 }
 
 BENCHMARK(BM_ParseColumn<parse_kilnutil>)->Name("number_parse/KILNUTIL_cvtstr2real")->Unit(benchmark::kMillisecond);

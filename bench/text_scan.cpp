@@ -34,7 +34,7 @@ const std::string& script() {
 }
 
 void set_bytes(benchmark::State& state) {
-  state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * static_cast<int64_t>(script().size()));
+  state.SetBytesProcessed(state.iterations() * static_cast<int64_t>(script().size()));
 }
 
 // A character that occurs nowhere exposed, so each search reads the whole text.
@@ -124,6 +124,6 @@ void BM_SplitBraceFree(benchmark::State& state) {
       p = next;
     }
   }
-  state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * static_cast<int64_t>(text.size()));
+  state.SetBytesProcessed(state.iterations() * static_cast<int64_t>(text.size()));
 }
 BENCHMARK(BM_SplitBraceFree)->Arg(16 << 10)->Arg(256 << 10);

@@ -55,7 +55,7 @@ int reference_length(const char* s) {
 }
 
 void set_label_and_bytes(benchmark::State& state, const std::string& text) {
-  state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * static_cast<int64_t>(text.size()));
+  state.SetBytesProcessed(state.iterations() * static_cast<int64_t>(text.size()));
   state.SetLabel(kKindNames[state.range(0)]);
 }
 

@@ -11,6 +11,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace kiln::locale {
@@ -103,7 +104,9 @@ std::string with_language(const std::string& text, char letter) {
     }
   }
   if (section_line == kNone) {
-    lines.push_back("[" + std::string(kSection) + "]");
+    std::string header(1, '[');
+    header.append(kSection).push_back(']');
+    lines.push_back(std::move(header));
     lines.push_back(entry);
   } else {
     lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(section_line) + 1, entry);
