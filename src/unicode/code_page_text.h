@@ -18,6 +18,16 @@ namespace kiln::unicode {
 // (ANSI), 1 (OEM) and 3 (thread ANSI) are the ANSI code page, 2 the Mac page.
 unsigned resolve_code_page(int code_page);
 
+// UTF-16 text (to its zero unit) as UTF-8 in `dst` of `dst_size` bytes: the
+// byte count without the NUL, 0 for an empty source, -1 when it does not fit.
+int utf16_to_utf8_buffer(char* dst, int dst_size, const KILN_WCHAR* src);
+
+// UTF-8 text (`src_len` bytes, or to its NUL when negative) as UTF-16 in `dst`
+// of `dst_units` units: the unit count without the zero, 0 for an empty
+// source, -1 when it does not fit. An explicit length is terminated one unit
+// past what the size test covers, so callers keep one spare unit.
+int utf8_to_utf16_buffer(KILN_WCHAR* dst, int dst_units, const char* src, int src_len);
+
 // Scratch storage of `T`: inline up to InlineBytes, on the heap above.
 template <typename T, size_t InlineBytes = 8192>
 class Scratch {

@@ -40,6 +40,32 @@ int mbcs_to_utf8(const char* src, int src_len, char* dst, int dst_size, int code
 
 }  // namespace
 
+namespace kiln::unicode {
+
+int utf16_to_utf8_buffer(char* dst, int dst_size, const KILN_WCHAR* src) {
+  if (dst != nullptr && dst_size > 0) *dst = '\0';
+  if (src == nullptr || *src == 0) return 0;
+  const int needed = multibyte_size(kCodePageUtf8, src, -1);
+  if (needed < 1 || needed > dst_size || dst == nullptr) return -1;
+  const int written = platform::wide_to_multibyte(kCodePageUtf8, src, -1, dst, needed);
+  return written == needed ? needed - 1 : -1;
+}
+
+int utf8_to_utf16_buffer(KILN_WCHAR* dst, int dst_units, const char* src, int src_len) {
+  if (dst != nullptr && dst_units > 0) *dst = 0;
+  if (is_empty_source(src, src_len)) return 0;
+  if (src_len < 0) src_len = -1;
+  const int count = platform::multibyte_to_wide(kCodePageUtf8, src, src_len, nullptr, 0);
+  if (count < 1 || count > dst_units || dst == nullptr) return -1;
+  if (platform::multibyte_to_wide(kCodePageUtf8, src, src_len, dst, dst_units) != count) return -1;
+  // An explicit length converts no NUL: terminate behind the text. That unit
+  // is one past what the size test covers; callers keep one spare unit.
+  if (src_len != -1 && dst[count - 1] != 0 && dst[count] != 0) dst[count] = 0;
+  return count - 1;
+}
+
+}  // namespace kiln::unicode
+
 int KILNUTIL_UNICODE_MBCS_to_UTF8(const char* src, int src_len, char* dst, int dst_size, int code_page) {
   const int result = is_empty_source(src, src_len) ? 0 : mbcs_to_utf8(src, src_len, dst, dst_size, code_page);
   // Every path that yields 0 leaves the destination empty.
@@ -58,25 +84,11 @@ int KILNUTIL_UNICODE_UTF8_to_MBCS(const char* src, int src_len, char* dst, int d
 }
 
 int KILNUTIL_UNICODE_UTF16_to_UTF8_buffers(char* dst, int dst_size, const KILN_WCHAR* src) {
-  if (dst != nullptr && dst_size > 0) *dst = '\0';
-  if (src == nullptr || *src == 0) return 0;
-  const int needed = multibyte_size(kCodePageUtf8, src, -1);
-  if (needed < 1 || needed > dst_size || dst == nullptr) return -1;
-  const int written = kiln::platform::wide_to_multibyte(kCodePageUtf8, src, -1, dst, needed);
-  return written == needed ? needed - 1 : -1;
+  return utf16_to_utf8_buffer(dst, dst_size, src);
 }
 
 int KILNUTIL_UNICODE_UTF8_to_UTF16_buffers_ex(KILN_WCHAR* dst, int dst_units, const char* src, int src_len) {
-  if (dst != nullptr && dst_units > 0) *dst = 0;
-  if (is_empty_source(src, src_len)) return 0;
-  if (src_len < 0) src_len = -1;
-  const int count = kiln::platform::multibyte_to_wide(kCodePageUtf8, src, src_len, nullptr, 0);
-  if (count < 1 || count > dst_units || dst == nullptr) return -1;
-  if (kiln::platform::multibyte_to_wide(kCodePageUtf8, src, src_len, dst, dst_units) != count) return -1;
-  // An explicit length converts no NUL: terminate behind the text. That unit
-  // is one past what the size test covers; callers keep one spare unit.
-  if (src_len != -1 && dst[count - 1] != 0 && dst[count] != 0) dst[count] = 0;
-  return count - 1;
+  return utf8_to_utf16_buffer(dst, dst_units, src, src_len);
 }
 
 int KILNUTIL_UNICODE_UTF16LE_to_UTF16BE(KILN_WCHAR* text) {

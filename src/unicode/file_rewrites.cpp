@@ -1,5 +1,6 @@
 #include "unicode/file_rewrites.h"
 
+#include "unicode/char_stream.h"
 #include "unicode/code_page_text.h"
 #include "platform/file_bytes.h"
 #include "platform/file_replacement.h"
@@ -116,7 +117,7 @@ int convert_streaming(FILE* stream, const char* path, unsigned code_page, long l
   GrowingBytes output;
   if (!output.grow(static_cast<size_t>(size - 3) + 1)) return kRewriteNoMemoryForText;
   for (;;) {
-    const int character = KILNUTIL_UTF8_fgetc(stream, 0);
+    const int character = read_utf8_char(stream, 0);
     if (character == -1) break;
     const auto unit = static_cast<KILN_WCHAR>(character & 0xFFFF);
     char bytes[4];

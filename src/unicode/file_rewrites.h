@@ -26,4 +26,10 @@ inline constexpr long long kStreamingConversionSize = 0x40000000;
 // is streamed instead of read whole.
 int convert_utf8_file_to_code_page(const char* path, int code_page, long long streaming_size);
 
+// Makes the file at the UTF-16 `path` UTF-16 little-endian: a missing file is
+// created (with its folders) holding the mark, an empty one gets the mark,
+// code-page text without a mark is rewritten. 1 when a file with only the
+// mark was written, else 0.
+int make_file_utf16_at(const KILN_WCHAR* path);
+
 }  // namespace kiln::unicode

@@ -3,6 +3,7 @@
 // (a path or mode longer than their fixed buffers) is refused the same way.
 #include "platform/file_system.h"
 #include "unicode/code_page_text.h"
+#include "unicode/utf8_paths.h"
 
 #include <kilnutil/unicode.h>
 
@@ -65,13 +66,19 @@ bool open_rule(unsigned disposition, OpenRule& rule) {
 
 }  // namespace
 
-FILE* KILNUTIL_UTF8_fopen(const char* path, const char* mode) {
+namespace kiln::unicode {
+
+FILE* open_utf8_path(const char* path, const char* mode) {
   if (!fits_wide_buffer(path, kPathUnits) || !fits_wide_buffer(mode, kModeUnits)) {
     errno = ENOENT;
     return nullptr;
   }
   return std::fopen(path, stdio_mode(mode).c_str());
 }
+
+}  // namespace kiln::unicode
+
+FILE* KILNUTIL_UTF8_fopen(const char* path, const char* mode) { return kiln::unicode::open_utf8_path(path, mode); }
 
 HANDLE KILNUTIL_UTF8_CreateFile(const char* path, unsigned int access, unsigned int /*share_mode*/, void* /*security*/,
                                 unsigned int disposition, unsigned int flags_and_attributes, HANDLE /*template_file*/) {
