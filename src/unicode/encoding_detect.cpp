@@ -164,11 +164,3 @@ int byte_order_mark_size(unsigned code) {
 }
 
 }  // namespace kiln::unicode
-
-using namespace kiln::unicode;
-
-unsigned int KILNUTIL_DetectEncodingBuffer(const unsigned char* bytes, unsigned int count, int flags) {
-  return detect_encoding(bytes, count, flags);
-}
-
-int KILNUTIL_GetBOMSize(unsigned int code) { return byte_order_mark_size(code); }

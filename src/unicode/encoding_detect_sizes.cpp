@@ -61,7 +61,3 @@ int KILNUTIL_DetectEncoding_GetSet_BufferSize(int set, double* value, int kind) 
   }
   return 0;
 }
-
-unsigned int KILNUTIL_DetectEncoding_GetBufSizeFromFilePath(const char* path) {
-  return kiln::unicode::detect_buffer_size_for_path(path);
-}
