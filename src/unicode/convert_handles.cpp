@@ -97,31 +97,14 @@ int convert_handle_text(HGLOBAL* handle, int direction, int code_page) {
   return replace_block_text(handle, to, units, unit_count, default_used);
 }
 
-}  // namespace kiln::unicode
-
-using namespace kiln::unicode;
-
-int KILNUTIL_UNICODE_mbcs_to_UTF8_or_back_handle(HGLOBAL* handle, int direction, int code_page) {
-  return convert_handle_text(handle, direction, code_page);
-}
-
-int KILNUTIL_UNICODE_mbcs_to_UTF8_handle(HGLOBAL* handle, int code_page) {
-  return convert_handle_text(handle, 0, code_page);
-}
-
-int KILNUTIL_UNICODE_UTF8_to_mbcs_handle(HGLOBAL* handle, int code_page) {
-  return convert_handle_text(handle, 1, code_page);
-}
-
-HGLOBAL KILNUTIL_UNICODE_UTF8_to_UTF16_handle(HGLOBAL utf8, int movable, int free_source) {
+HGLOBAL utf8_block_to_utf16(HGLOBAL utf8, bool movable, bool free_source) {
   HGLOBAL result = nullptr;
   {
     LockedBlock source(utf8);
     WideScratch units;
-    const int count = source.data() != nullptr ? block_text_to_wide(kiln::platform::kCodePageUtf8, source, units) : 0;
+    const int count = source.data() != nullptr ? block_text_to_wide(platform::kCodePageUtf8, source, units) : 0;
     if (count > 0)
-      result =
-          kiln::platform::global_alloc(movable != 0 ? GHND : GPTR, static_cast<size_t>(count) * sizeof(KILN_WCHAR));
+      result = platform::global_alloc(movable ? GHND : GPTR, static_cast<size_t>(count) * sizeof(KILN_WCHAR));
     if (result != nullptr) {
       LockedBlock target(result);
       if (target.data() != nullptr) {
@@ -129,6 +112,8 @@ HGLOBAL KILNUTIL_UNICODE_UTF8_to_UTF16_handle(HGLOBAL utf8, int movable, int fre
       }
     }
   }
-  if (free_source != 0 && utf8 != nullptr) kiln::platform::global_free(utf8);
+  if (free_source && utf8 != nullptr) platform::global_free(utf8);
   return result;
 }
+
+}  // namespace kiln::unicode

@@ -52,4 +52,8 @@ int replace_block_text(HGLOBAL* handle, unsigned code_page, WideScratch& units, 
 // with the NUL, 1 for an empty block, 0 for no block, -1 on failure.
 int convert_handle_text(HGLOBAL* handle, int direction, int code_page);
 
+// A new block (movable or fixed) of the UTF-8 block's text in UTF-16 with its
+// zero unit, null when there is no text; the source is freed on request.
+HGLOBAL utf8_block_to_utf16(HGLOBAL utf8, bool movable, bool free_source);
+
 }  // namespace kiln::unicode
