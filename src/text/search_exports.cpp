@@ -1,0 +1,21 @@
+// The character searches of narrow text: the exported forms.
+#include "text/chars.h"
+#include "text/exposed_search.h"
+#include "text/strchr.h"
+
+#include <kilnutil/text.h>
+
+using namespace kiln::text;
+
+extern "C" {
+
+char* KILNUTIL_strchr(const char* text, int c, unsigned int mode) { return search_char(text, c, mode); }
+
+char* KILNUTIL_strchr_reverse(const char* text, int c, const char* from) { return search_char_reverse(text, c, from); }
+
+char* KILNUTIL_exposed_char_pos_ex_loc_ex(const char* text, int target, unsigned int flags, int* status, int loc,
+                                          const char* end) {
+  return mutable_pos(exposed_search_or_control(text, target, flags, status, loc != 0, end));
+}
+
+}  // extern "C"
