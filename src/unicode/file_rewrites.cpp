@@ -152,17 +152,13 @@ int convert_utf8_file_to_code_page(const char* path, int code_page, long long st
   return result;
 }
 
-}  // namespace kiln::unicode
-
-using namespace kiln::unicode;
-
-int InsertUTF8BOM(const char* path, int only_if_non_ascii) {
+int insert_utf8_mark(const char* path, bool only_if_non_ascii) {
   FileBytes file;
   if (const ReadStatus status = read_whole_file(path, file); status != ReadStatus::kOk)
     return read_failure_code(status);
   const unsigned char* bytes = file.data.get();
   if (has_utf8_mark(bytes, file.size)) return 0;
-  if (only_if_non_ascii != 0 && std::all_of(bytes, bytes + file.size, [](unsigned char b) { return b < 0x80; })) {
+  if (only_if_non_ascii && std::all_of(bytes, bytes + file.size, [](unsigned char b) { return b < 0x80; })) {
     return 1;
   }
   switch (replace_file(path, {{kUtf8Mark, sizeof kUtf8Mark}, {bytes, file.size}})) {
@@ -174,6 +170,4 @@ int InsertUTF8BOM(const char* path, int only_if_non_ascii) {
   return 1;  // the file could not be rewritten
 }
 
-int ConvertUTF8TextFileToCodePageIfPossible(const char* path, int code_page) {
-  return convert_utf8_file_to_code_page(path, code_page, kStreamingConversionSize);
-}
+}  // namespace kiln::unicode

@@ -87,14 +87,12 @@ int make_file_utf16_at(const KILN_WCHAR* path) {
   }
 }
 
-}  // namespace kiln::unicode
-
-int KILNUTIL_MakeFileUTF16(const KILN_WCHAR* path) { return kiln::unicode::make_file_utf16_at(path); }
-
-void make_file_UTF16(const char* path, int delete_first) {
+void make_file_utf16_from_utf8(const char* path, bool delete_first) {
   if (path == nullptr) return;
-  kiln::unicode::WideScratch units;
-  if (kiln::unicode::to_wide(kiln::platform::kCodePageUtf8, path, -1, units) == 0) return;
-  if (delete_first != 0) kiln::platform::remove_file(path);
-  kiln::unicode::make_file_utf16_at(units.data());
+  WideScratch units;
+  if (to_wide(platform::kCodePageUtf8, path, -1, units) == 0) return;
+  if (delete_first) platform::remove_file(path);
+  make_file_utf16_at(units.data());
 }
+
+}  // namespace kiln::unicode
