@@ -76,12 +76,7 @@ FILE* open_utf8_path(const char* path, const char* mode) {
   return std::fopen(path, stdio_mode(mode).c_str());
 }
 
-}  // namespace kiln::unicode
-
-FILE* KILNUTIL_UTF8_fopen(const char* path, const char* mode) { return kiln::unicode::open_utf8_path(path, mode); }
-
-HANDLE KILNUTIL_UTF8_CreateFile(const char* path, unsigned int access, unsigned int /*share_mode*/, void* /*security*/,
-                                unsigned int disposition, unsigned int flags_and_attributes, HANDLE /*template_file*/) {
+HANDLE create_utf8_path(const char* path, unsigned access, unsigned disposition, unsigned flags_and_attributes) {
   OpenRule rule = OpenRule::kOpenExisting;
   const bool known_rule = open_rule(disposition, rule);
   if (!fits_wide_buffer(path, kPathUnits) || !known_rule) {
@@ -91,12 +86,12 @@ HANDLE KILNUTIL_UTF8_CreateFile(const char* path, unsigned int access, unsigned 
   const bool reads = (access & (kGenericRead | kGenericAll)) != 0;
   const bool writes = (access & (kGenericWrite | kGenericAll)) != 0;
   const bool read_only = (flags_and_attributes & kAttributeReadOnly) != 0;
-  const int descriptor = kiln::platform::open_file_descriptor(path, reads, writes, rule, read_only);
+  const int descriptor = platform::open_file_descriptor(path, reads, writes, rule, read_only);
   if (descriptor < 0) return INVALID_HANDLE_VALUE;
   return reinterpret_cast<HANDLE>(static_cast<intptr_t>(descriptor));
 }
 
-int KILNUTIL_UTF8__access(const char* path, int mode) {
+int test_utf8_path_access(const char* path, int mode) {
   if (!fits_wide_buffer(path, kPathUnits)) {
     errno = ENOENT;
     return -1;
@@ -107,5 +102,7 @@ int KILNUTIL_UTF8__access(const char* path, int mode) {
     errno = EINVAL;
     return -1;
   }
-  return kiln::platform::test_file_access(path, mode);
+  return platform::test_file_access(path, mode);
 }
+
+}  // namespace kiln::unicode
