@@ -97,7 +97,7 @@ bool value_to_fields(double value, int decimals, CalendarFields* fields) {
   if (!(day >= kFirstDay && day <= kLastDay)) return false;
 
   stTime time{};
-  extract_time(serial - day, &time, decimals);
+  split_duration(serial - day, &time, decimals);
   const long absolute = static_cast<long>(day) + static_cast<long>(time.days) + kAbsoluteDayOfDayZero;
 
   CalendarFields f;

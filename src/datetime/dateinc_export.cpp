@@ -1,6 +1,7 @@
 // KILNUTIL_dateinc: the date-editing operations the host performs on a date
 // value through one entry point (calendar steps, increments divided or
 // snapped, weekday and day-of-month moves, queries).
+#include "frame/missing_value.h"
 #include "datetime/calendar.h"
 #include "datetime/date_text.h"
 #include "datetime/increment_units.h"
@@ -235,7 +236,7 @@ int set_from_text(double* value, const double* argument) {
     return 0;
   }
   const double date = kiln::datetime::read_iso_date(text);
-  if (!is_missing_value(date)) *value = date;
+  if (!kiln::frame::is_missing(date)) *value = date;
   return 0;
 }
 

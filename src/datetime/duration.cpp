@@ -3,6 +3,7 @@
 #include "datetime/duration.h"
 
 #include "datetime/calendar.h"
+#include "datetime/system_time.h"
 #include "frame/relaxed.h"
 
 #include <kilnutil/datetime.h>
@@ -44,7 +45,7 @@ long long snap(double x) {
 
 double date_value(const SYSTEMTIME* time) {
   double value = 0.0;
-  SystemTimeToJulianDate(&value, time, nullptr);  // a failed conversion leaves its placeholder
+  system_time_to_value(&value, time, nullptr);  // a failed conversion leaves its placeholder
   return value;
 }
 
@@ -63,12 +64,7 @@ int difference_in(const SYSTEMTIME* first, const SYSTEMTIME* second, double unit
 bool keep_rounded_midnight_as_2400() { return g_keep_rounded_midnight.load(); }
 void set_keep_rounded_midnight_as_2400(bool keep) { g_keep_rounded_midnight.store(keep); }
 
-}  // namespace kiln::datetime
-
-using namespace kiln::datetime;
-
-int extract_time(double value, stTime* out, int decimals) {
-  if (out == nullptr) return 0;
+void split_duration(double value, stTime* out, int decimals) {
   stTime t{};
   t.negative = value < 0 ? 1 : 0;
   // Not a number or infinite: no duration at all.
@@ -97,6 +93,15 @@ int extract_time(double value, stTime* out, int decimals) {
   t.seconds = seconds % 60;
   t.milliseconds = milliseconds;
   *out = t;
+}
+
+}  // namespace kiln::datetime
+
+using namespace kiln::datetime;
+
+int extract_time(double value, stTime* out, int decimals) {
+  if (out == nullptr) return 0;
+  split_duration(value, out, decimals);
   return 0;
 }
 

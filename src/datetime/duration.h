@@ -10,4 +10,9 @@ namespace kiln::datetime {
 bool keep_rounded_midnight_as_2400();
 void set_keep_rounded_midnight_as_2400(bool keep);
 
+// A day count split into whole days (32 bits), hours, minutes, seconds and
+// milliseconds, the sign apart; decimals >= 0 rounds the milliseconds to that
+// many places of the second (not a number or infinite: all zero).
+void split_duration(double value, stTime* out, int decimals);
+
 }  // namespace kiln::datetime

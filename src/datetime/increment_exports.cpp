@@ -44,9 +44,7 @@ void truncate_to_unit_start(CalendarFields* f, char unit) {
   if (unit == 'y') f->month = 1;
 }
 
-}  // namespace
-
-bool increment_date_val(double* value, char unit, int n) {
+bool step_date(double* value, char unit, int n) {
   if (value == nullptr || n < 1) return false;
   if (unit == 'd') {
     *value += n;
@@ -58,6 +56,28 @@ bool increment_date_val(double* value, char unit, int n) {
   *value = stepped;
   return true;
 }
+
+bool round_to_calendar_unit(double* value, double increment_days, int tolerance, int reserved) {
+  if (value == nullptr) return false;
+  const char unit = tick_unit(increment_days);
+  CalendarFields f;
+  if (!value_to_fields(*value, kRecordDecimals, &f)) return false;
+  if (reserved != 0) return false;
+  truncate_to_unit_start(&f, unit);
+  f.milliseconds = 0.0;
+  double candidate = 0.0;
+  if (fields_to_value(f, kActiveSystem, &candidate) != kFieldsConverted) return false;
+  if (!within_tolerance(candidate, *value, increment_days, tolerance)) {
+    if (!step_date(&candidate, unit, 1)) return false;
+    if (!within_tolerance(candidate, *value, increment_days, tolerance)) return false;
+  }
+  *value = candidate;
+  return true;
+}
+
+}  // namespace
+
+bool increment_date_val(double* value, char unit, int n) { return step_date(value, unit, n); }
 
 bool increment_years_type_date_val(double* value, char unit, int n, bool forward) {
   if (value == nullptr || n < 1) return false;
@@ -74,27 +94,13 @@ bool increment_years_type_date_val(double* value, char unit, int n, bool forward
 }
 
 bool calendar_round_to_inc(double* value, double increment_days, int tolerance, int reserved) {
-  if (value == nullptr) return false;
-  const char unit = tick_unit(increment_days);
-  CalendarFields f;
-  if (!value_to_fields(*value, kRecordDecimals, &f)) return false;
-  if (reserved != 0) return false;
-  truncate_to_unit_start(&f, unit);
-  f.milliseconds = 0.0;
-  double candidate = 0.0;
-  if (fields_to_value(f, kActiveSystem, &candidate) != kFieldsConverted) return false;
-  if (!within_tolerance(candidate, *value, increment_days, tolerance)) {
-    if (!increment_date_val(&candidate, unit, 1)) return false;
-    if (!within_tolerance(candidate, *value, increment_days, tolerance)) return false;
-  }
-  *value = candidate;
-  return true;
+  return round_to_calendar_unit(value, increment_days, tolerance, reserved);
 }
 
 double KILNUTIL_chk_round_tick(double value, double increment, int tolerance, bool calendar) {
   if (calendar) {
     double rounded = value;
-    return calendar_round_to_inc(&rounded, increment, tolerance, 0) ? rounded : value;
+    return round_to_calendar_unit(&rounded, increment, tolerance, 0) ? rounded : value;
   }
   if (increment == 0) return value;
   const double step = std::fabs(increment);

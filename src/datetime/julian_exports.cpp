@@ -1,6 +1,7 @@
 // SYSTEMTIME records and date values, the current date, the tick-count
 // duration and the date-value test.
 #include "datetime/calendar.h"
+#include "datetime/system_time.h"
 #include "platform/clock.h"
 
 #include <kilnutil/datetime.h>
@@ -11,28 +12,12 @@ using namespace kiln::datetime;
 
 namespace {
 
-// Stored before converting, so a failed conversion leaves a recognisable value.
-constexpr double kConversionPlaceholder = 2451323.4653704;
 constexpr int kDefaultDecimals = 3;
-
-CalendarFields fields_of(const SYSTEMTIME& time, const double* milliseconds) {
-  CalendarFields f;
-  f.year = time.wYear;
-  f.month = time.wMonth;
-  f.day = time.wDay;
-  f.hour = time.wHour;
-  f.minute = time.wMinute;
-  f.second = time.wSecond;
-  f.milliseconds = milliseconds ? *milliseconds : time.wMilliseconds;
-  return f;
-}
 
 }  // namespace
 
 int SystemTimeToJulianDate(double* value, const SYSTEMTIME* time, const double* milliseconds) {
-  if (value == nullptr || time == nullptr) return 0;
-  *value = kConversionPlaceholder;
-  return fields_to_value(fields_of(*time, milliseconds), kActiveSystem, value) == kFieldsConverted ? 1 : 0;
+  return system_time_to_value(value, time, milliseconds) ? 1 : 0;
 }
 
 int JulianDateToSystemTime(const double* value, SYSTEMTIME* time, double* milliseconds, int decimals) {
@@ -55,7 +40,7 @@ double get_current_date(bool date_only) {
   SYSTEMTIME now = kiln::platform::local_time();
   if (date_only) now.wHour = now.wMinute = now.wSecond = now.wMilliseconds = 0;
   double value = 0.0;
-  SystemTimeToJulianDate(&value, &now, nullptr);
+  system_time_to_value(&value, &now, nullptr);
   return value;
 }
 

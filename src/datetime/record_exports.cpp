@@ -45,6 +45,13 @@ bool repair_date(KilnTm* record) {
   return valid;
 }
 
+void clear_time_of_day(KilnTm* record) {
+  record->tm_sec = 0;
+  record->tm_min = 0;
+  record->tm_hour = 0;
+  record->tm_isdst = 0;
+}
+
 }  // namespace
 
 int DateTime_CheckDate(KilnTm* record, int flags) {
@@ -55,14 +62,10 @@ int DateTime_CheckDate(KilnTm* record, int flags) {
   } else if (!repair_date(record)) {
     result = 0;
   }
-  if (flags & kClearTimeOfDay) DateTime_ResetTimeOfDay(record);
+  if (flags & kClearTimeOfDay) clear_time_of_day(record);
   return result;
 }
 
 void DateTime_ResetTimeOfDay(KilnTm* record) {
-  if (record == nullptr) return;
-  record->tm_sec = 0;
-  record->tm_min = 0;
-  record->tm_hour = 0;
-  record->tm_isdst = 0;
+  if (record != nullptr) clear_time_of_day(record);
 }

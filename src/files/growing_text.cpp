@@ -3,18 +3,20 @@
 // of the shortfall and 30% of its size, as a movable zero-filled block.
 #include "files/growing_text.h"
 
+#include "platform/global_memory.h"
+
 #include <algorithm>
 #include <cstring>
 
 namespace kiln::files {
 
 GrowingText::~GrowingText() {
-  if (block_ != nullptr) GlobalFree(block_);
+  if (block_ != nullptr) kiln::platform::global_free(block_);
 }
 
 bool GrowingText::make_room(size_t needed) {
   if (block_ == nullptr) {
-    block_ = GlobalAlloc(GPTR, needed);
+    block_ = kiln::platform::global_alloc(GPTR, needed);
     size_ = block_ != nullptr ? needed : 0;
     return block_ != nullptr;
   }
@@ -22,9 +24,9 @@ bool GrowingText::make_room(size_t needed) {
   const double shortfall = static_cast<double>(needed - size_);
   const double size = static_cast<double>(size_);
   const auto grown = static_cast<size_t>(size + std::max(shortfall, 0.3 * size));
-  HGLOBAL larger = GlobalReAlloc(block_, grown, GMEM_MOVEABLE | GMEM_ZEROINIT);
+  HGLOBAL larger = kiln::platform::global_realloc(block_, grown, GMEM_MOVEABLE | GMEM_ZEROINIT);
   if (larger == nullptr) {
-    GlobalFree(block_);
+    kiln::platform::global_free(block_);
     block_ = nullptr;
     return false;
   }
@@ -35,11 +37,11 @@ bool GrowingText::make_room(size_t needed) {
 
 bool GrowingText::append(const char* text, size_t length) {
   if (!make_room(used_ + length + 1)) return false;
-  auto* data = static_cast<char*>(GlobalLock(block_));
+  auto* data = static_cast<char*>(kiln::platform::global_lock(block_));
   if (data == nullptr) return false;
   std::memcpy(data + used_, text, length);
   used_ += length;
-  GlobalUnlock(block_);
+  kiln::platform::global_unlock(block_);
   return true;
 }
 

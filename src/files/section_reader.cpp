@@ -6,6 +6,7 @@
 #include "files/section_header.h"
 #include "files/text_file_reader.h"
 #include "platform/file_bytes.h"
+#include "platform/global_memory.h"
 
 #include <kilnutil/files.h>
 
@@ -65,13 +66,13 @@ HGLOBAL read_named_section(FILE* stream, const char* name, unsigned* status, uns
 HGLOBAL read_block(FILE* stream, long long length) {
   if (length <= 0) return nullptr;
   const auto size = static_cast<size_t>(length);
-  HGLOBAL block = GlobalAlloc(GHND, size + 1);
+  HGLOBAL block = kiln::platform::global_alloc(GHND, size + 1);
   if (block == nullptr) return nullptr;
-  void* data = GlobalLock(block);
+  void* data = kiln::platform::global_lock(block);
   const bool complete = data != nullptr && std::fread(data, 1, size, stream) == size;
-  if (data != nullptr) GlobalUnlock(block);
+  if (data != nullptr) kiln::platform::global_unlock(block);
   if (complete) return block;
-  GlobalFree(block);
+  kiln::platform::global_free(block);
   return nullptr;
 }
 
@@ -90,7 +91,7 @@ HGLOBAL read_whole_text(FILE* stream) {
   if (start < 0 || size < 0) return nullptr;
   const long long length = size - start;
   if (length > 0) return read_block(stream, length);
-  return GlobalAlloc(GHND, 1);
+  return kiln::platform::global_alloc(GHND, 1);
 }
 
 }  // namespace

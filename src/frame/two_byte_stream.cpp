@@ -22,11 +22,7 @@ unsigned reader_code_page() {
   return kiln::platform::ansi_code_page();
 }
 
-}  // namespace
-
-extern "C" {
-
-unsigned int KILNUTIL_fgetc_two_new(FILE* stream, unsigned int flags) {
+unsigned read_two_byte_char(FILE* stream, unsigned flags) {
   // End of file (-1) leaves 0xFF in a byte; callers test the stream's
   // end-of-file indicator, as the value alone cannot tell.
   const unsigned low = static_cast<unsigned>(std::fgetc(stream)) & 0xFFu;
@@ -39,7 +35,13 @@ unsigned int KILNUTIL_fgetc_two_new(FILE* stream, unsigned int flags) {
   return (high << 8) | low;
 }
 
-unsigned int KILNUTIL_fgetc_two(FILE* stream) { return KILNUTIL_fgetc_two_new(stream, 0); }
+}  // namespace
+
+extern "C" {
+
+unsigned int KILNUTIL_fgetc_two_new(FILE* stream, unsigned int flags) { return read_two_byte_char(stream, flags); }
+
+unsigned int KILNUTIL_fgetc_two(FILE* stream) { return read_two_byte_char(stream, 0); }
 
 int KILNUTIL_ungetc_two(unsigned int c, FILE* stream) {
   const unsigned high = (c >> 8) & 0xFFu;

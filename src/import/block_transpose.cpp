@@ -1,5 +1,7 @@
 // In-place transpose of a block of fixed-size elements through a scratch copy
 // in global memory.
+#include "platform/global_memory.h"
+
 #include <kilnutil/import.h>
 #include <kilnutil/platform.h>
 
@@ -24,24 +26,24 @@ void transpose_into(unsigned char* dest, const unsigned char* source, std::size_
 extern "C" int KILNUTIL_RowColChange(void* block, unsigned short rows, unsigned short cols, int elem_size) {
   const std::size_t element = elem_size > 0 ? static_cast<std::size_t>(elem_size) : 0;
   const std::size_t bytes = std::size_t{rows} * cols * element;
-  HGLOBAL scratch = GlobalAlloc(GHND, bytes);
+  HGLOBAL scratch = kiln::platform::global_alloc(GHND, bytes);
   if (scratch == nullptr) return 1;
   if (rows == 0) {
-    GlobalFree(scratch);
+    kiln::platform::global_free(scratch);
     return 0;
   }
   // An empty block (no columns, or elements of no size) cannot be locked, as
   // with the system's movable blocks: that counts as memory not to be had.
-  auto* copy = static_cast<unsigned char*>(GlobalLock(scratch));
+  auto* copy = static_cast<unsigned char*>(kiln::platform::global_lock(scratch));
   if (copy == nullptr) {
-    GlobalFree(scratch);
+    kiln::platform::global_free(scratch);
     return 1;
   }
   if (block != nullptr) {
     std::memcpy(copy, block, bytes);
     transpose_into(static_cast<unsigned char*>(block), copy, rows, cols, element);
   }
-  GlobalUnlock(scratch);
-  GlobalFree(scratch);
+  kiln::platform::global_unlock(scratch);
+  kiln::platform::global_free(scratch);
   return 0;
 }

@@ -4,6 +4,7 @@
 #include "math/f_dist.h"
 
 #include "frame/missing_value.h"
+#include "math/block_args.h"
 #include "math/error_code.h"
 #include "math/gamma.h"
 #include "math/incomplete_beta.h"
@@ -78,6 +79,11 @@ double f_quantile(double p, unsigned df1, unsigned df2) {
   if (!newton_on_beta(p, d1 / 2, d2 / 2, x)) set_error_code(KILNUTIL_MATH_ERR_DOMAIN);
   const double value = 1 / ((d1 / x - d1) / d2);
   return error_code() != KILNUTIL_MATH_ERR_NONE ? frame::kMissingValue : value;
+}
+
+double block_f_quantile(const double* block) {
+  if (block == nullptr) return frame::kMissingValue;
+  return f_quantile(block[0], block_degrees_of_freedom(block[1]), block_degrees_of_freedom(block[2]));
 }
 
 }  // namespace kiln::math

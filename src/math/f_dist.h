@@ -20,4 +20,8 @@ double f_cdf(double f, int df1, int df2);
 // missing value is the result whenever it is set at the end.
 double f_quantile(double p, unsigned df1, unsigned df2);
 
+// The quantile of a {p, df1, df2} argument block (the `F_dist_export`
+// export); the missing value for no block.
+double block_f_quantile(const double* block);
+
 }  // namespace kiln::math

@@ -2,6 +2,7 @@
 #include "math/t_dist.h"
 
 #include "frame/missing_value.h"
+#include "math/block_args.h"
 #include "math/error_code.h"
 #include "math/incomplete_beta.h"
 
@@ -74,5 +75,10 @@ double t_quantile(double p, int df) {
 }
 
 double t_quantile_coarse(double p, unsigned df) { return signed_quantile(p, df, {636, kCoarseTolerance, false}); }
+
+double block_t_quantile_coarse(const double* block) {
+  if (block == nullptr) return frame::kMissingValue;
+  return t_quantile_coarse(block[0], block_degrees_of_freedom(block[1]));
+}
 
 }  // namespace kiln::math

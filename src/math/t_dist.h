@@ -25,4 +25,8 @@ double t_quantile(double p, int df);
 // 3e-7, at most 80 steps, no argument checks and never the missing value.
 double t_quantile_coarse(double p, unsigned df);
 
+// The coarse quantile of a {p, df} argument block (the `t_dist_export`
+// export); the missing value for no block.
+double block_t_quantile_coarse(const double* block);
+
 }  // namespace kiln::math

@@ -13,11 +13,10 @@ double probt(double t, int df) { return kiln::math::t_cdf_by_symmetry(t, df); }
 
 double tTable(double p, int df) { return kiln::math::t_quantile(p, df); }
 
-double t_dist_export(const double* block) {
-  if (block == nullptr) return kiln::frame::kMissingValue;
-  return kiln::math::t_quantile_coarse(block[0], kiln::math::block_degrees_of_freedom(block[1]));
-}
+double t_dist_export(const double* block) { return kiln::math::block_t_quantile_coarse(block); }
 
-int t_dist_export_ptr(const double* block, double* out) { return kiln::math::write_through(out, t_dist_export(block)); }
+int t_dist_export_ptr(const double* block, double* out) {
+  return kiln::math::write_through(out, kiln::math::block_t_quantile_coarse(block));
+}
 
 }  // extern "C"

@@ -1,64 +1,18 @@
-// Quoted character constants ('a', '\n', '\x41') and the special integer
-// forms that script code accepts where a number is expected.
-#include "numeric/escapes.h"
+// Character constants and the special integer forms: the exported forms.
+#include "numeric/char_constant.h"
 
 #include <kilnutil/numeric.h>
 
-#include <cstring>
-
 using namespace kiln::numeric;
 
-namespace {
+extern "C" {
 
-constexpr int kUnterminated = -1;
-constexpr int kMultiCharacter = -2;
+int KILNUTIL_expand_C_escape_codes(char* text) { return expand_escapes_in_place(text); }
 
-// The value of the constant between the quotes of [begin, end).
-int quoted_character_value(const char* begin, const char* end) {
-  char first[2] = {0, 0};
-  int produced = 0;
-  expand_escapes(begin, end, [&](char c) {
-    if (produced < 2) first[produced] = c;
-    ++produced;
-  });
-  if (produced <= 1) return static_cast<signed char>(first[0]);
-  // A "\0" left in place by the expander is the NUL character.
-  if (produced == 2 && first[0] == '\\' && first[1] == '0') return 0;
-  return kMultiCharacter;
-}
-
-bool is_hex_prefixed(const char* text) {
-  return text[0] == '0' && (text[1] == 'x' || text[1] == 'X') && text[2] != '\0' && is_hex_string(text + 2);
-}
-
-}  // namespace
-
-int KILNUTIL_expand_C_escape_codes(char* text) {
-  if (text == nullptr) return 0;
-  char* out = text;
-  const int expanded = expand_escapes(text, text + std::strlen(text), [&](char c) { *out++ = c; });
-  *out = '\0';
-  return expanded;
-}
-
-int KILNUTIL_is_str_ascii_char(const char* text, int* value) {
-  if (text == nullptr || text[0] != '\'') return 0;
-  const std::size_t length = std::strlen(text);
-  const int result =
-      length >= 3 && text[length - 1] == '\'' ? quoted_character_value(text + 1, text + length - 1) : kUnterminated;
-  if (value) *value = result;
-  return 1;
-}
+int KILNUTIL_is_str_ascii_char(const char* text, int* value) { return read_character_constant(text, value) ? 1 : 0; }
 
 int KILNUTIL_cvt_special_str_to_int(const char* text, int* value, int* error) {
-  if (text == nullptr) return 0;
-  if (is_hex_prefixed(text)) {
-    if (value) *value = static_cast<int>(KILNUTIL_hexstr2int(text + 2));
-    return 1;
-  }
-  int character = 0;
-  if (KILNUTIL_is_str_ascii_char(text, &character) == 0) return 0;
-  if (value) *value = character;
-  if ((character < -128 || character > 127 || character == kUnterminated) && error) *error = -1;
-  return 1;
+  return read_special_integer(text, value, error) ? 1 : 0;
 }
+
+}  // extern "C"

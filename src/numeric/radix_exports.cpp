@@ -1,99 +1,24 @@
-// Hexadecimal and binary integers, and the conversion between a number and
-// its 64-bit hexadecimal text.
-#include "numeric/runtime_integer.h"
+// Hexadecimal and binary integers: the exported forms.
+#include "numeric/radix.h"
 
-#include <kilnutil/frame.h>
 #include <kilnutil/numeric.h>
-
-#include <cstdio>
-#include <cstring>
 
 using namespace kiln::numeric;
 
-namespace {
+extern "C" {
 
-constexpr int kMaxHexWidth = 64;
+unsigned int KILNUTIL_hexstr2int(const char* text) { return hex_text_value(text); }
 
-bool is_hex_digit(char c) { return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F'); }
+unsigned int Hex2Dec(const char* text) { return hex_text_value(text); }
 
-bool is_f(char c) { return c == 'F' || c == 'f'; }
-
-// Sixteen digits led by "F" (optionally after "0x") are a negative number in
-// two's complement; every other text is unsigned.
-bool reads_as_signed(const char* hex) {
-  const std::size_t length = std::strlen(hex);
-  if (length == 16) return is_f(hex[0]);
-  return length == 18 && hex[0] == '0' && (hex[1] == 'x' || hex[1] == 'X') && is_f(hex[2]);
-}
-
-int hex_to_number(double* number, const char* hex) {
-  unsigned long long bits = 0;
-  if (KILNUTIL_hexstr2int64(hex, &bits) != 0) {
-    *number = KILNUTIL_NANUM;
-  } else if (reads_as_signed(hex)) {
-    *number = static_cast<double>(static_cast<long long>(bits));
-  } else {
-    *number = static_cast<double>(bits);
-  }
-  return 0;
-}
-
-// The double truncated to 64 bits: from 2^63 up as unsigned, negative values
-// as their two's complement; values beyond the range saturate.
-unsigned long long truncate_to_bits(double x) {
-  if (x >= 18446744073709551616.0) return UINT64_MAX;
-  if (x >= 9223372036854775808.0) return static_cast<unsigned long long>(x);
-  if (x > -9223372036854775808.0) return static_cast<unsigned long long>(static_cast<long long>(x));
-  return 0x8000000000000000ull;  // also what a NaN gives
-}
-
-int number_to_hex(double number, char* hex, int width) {
-  if (is_missing_value(number)) {
-    *hex = '\0';
-    return 1;
-  }
-  char digits[17];
-  const int length = std::snprintf(digits, sizeof digits, "%llX", truncate_to_bits(number));
-  if (width < 1 || width > kMaxHexWidth) {
-    std::memcpy(hex, digits, static_cast<std::size_t>(length) + 1);
-    return 0;
-  }
-  if (length > width) {
-    std::memcpy(hex, digits, static_cast<std::size_t>(length) + 1);
-    return 2;
-  }
-  const int padding = width - length;
-  std::memset(hex, number < 0 ? 'F' : '0', static_cast<std::size_t>(padding));
-  std::memcpy(hex + padding, digits, static_cast<std::size_t>(length) + 1);
-  return 0;
-}
-
-}  // namespace
-
-unsigned int KILNUTIL_hexstr2int(const char* text) { return text ? runtime_strtoul(text, 16) : 0; }
-
-unsigned int Hex2Dec(const char* text) { return KILNUTIL_hexstr2int(text); }
-
-unsigned int KILNUTIL_binstr2int(const char* text) { return text ? runtime_strtoul(text, 2) : 0; }
+unsigned int KILNUTIL_binstr2int(const char* text) { return binary_text_value(text); }
 
 int KILNUTIL_hexstr2int64(const char* text, unsigned long long* value) {
-  if (value == nullptr || text == nullptr) return -1;
-  const char* end = text;
-  const std::uint64_t converted = runtime_strtoull(text, 16, &end);
-  if (*end != '\0') return -1;
-  *value = converted;
-  return 0;
+  return hex_text_to_bits(text, value) ? 0 : -1;
 }
 
-int is_hex_string(const char* text) {
-  if (text == nullptr) return 0;
-  for (; *text != '\0'; ++text) {
-    if (!is_hex_digit(*text)) return 0;
-  }
-  return 1;
-}
+int is_hex_string(const char* text) { return is_hex_text(text) ? 1 : 0; }
 
-int hex_dec_convert(double* number, char* hex, int width) {
-  if (number == nullptr || hex == nullptr) return -1;
-  return width < 0 ? hex_to_number(number, hex) : number_to_hex(*number, hex, width);
-}
+int hex_dec_convert(double* number, char* hex, int width) { return convert_hex_and_number(number, hex, width); }
+
+}  // extern "C"

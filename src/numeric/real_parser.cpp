@@ -27,7 +27,6 @@ namespace {
 
 kiln::frame::Relaxed<char> g_decimal_separator{'.'};
 
-constexpr unsigned kStrict = 1;
 constexpr unsigned kNotANumber = 0;
 constexpr unsigned kInteger = 1;
 constexpr unsigned kWithSeparator = 2;
@@ -221,7 +220,7 @@ unsigned exchange_decimal_separator(const char* text) {
 unsigned convert_real_text(char* text, double* value, unsigned flags, int* integer_part) {
   if (value == nullptr) return exchange_decimal_separator(text);
   if (text == nullptr) return kNotANumber;
-  const ParseResult result = parse_real(text, (flags & kStrict) != 0);
+  const ParseResult result = parse_real(text, (flags & kRealStrict) != 0);
   if (result.code == kNotANumber) return kNotANumber;
   *value = result.value;
   if (integer_part && result.has_integer_part) *integer_part = result.integer_part;
@@ -229,27 +228,3 @@ unsigned convert_real_text(char* text, double* value, unsigned flags, int* integ
 }
 
 }  // namespace kiln::numeric
-
-using kiln::numeric::convert_real_text;
-
-extern "C" {
-
-unsigned int KILNUTIL_cvtstr2real_ex(char* text, double* value, unsigned int flags, int* integer_part) {
-  return convert_real_text(text, value, flags, integer_part);
-}
-
-unsigned int KILNUTIL_cvtstr2real(char* text, double* value) {
-  return convert_real_text(text, value, kiln::numeric::kStrict, nullptr);
-}
-
-double KILNUTIL_str2real(char* text) {
-  double value = 0.0;
-  return convert_real_text(text, &value, kiln::numeric::kStrict, nullptr) ? value : KILNUTIL_NANUM;
-}
-
-double KILNUTIL_dbStr2Real(char* text) {
-  double value = 0.0;
-  return convert_real_text(text, &value, kiln::numeric::kStrict, nullptr) ? value : 0.0;
-}
-
-}  // extern "C"

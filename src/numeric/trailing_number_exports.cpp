@@ -1,63 +1,20 @@
-// The exponent test and the number that ends a name ("Book12" is "Book" and
-// 12), as the host numbers books, sheets and columns.
-#include "numeric/text_scan.h"
-#include "text/char_class.h"
+// The exponent test and the number that ends a name: the exported forms.
+#include "numeric/trailing_number.h"
 
 #include <kilnutil/numeric.h>
-#include <kilnutil/text.h>
-
-#include <climits>
-#include <cstring>
 
 using namespace kiln::numeric;
 
-namespace {
+extern "C" {
 
-constexpr int kAnyLength = -2;
-constexpr int kSkipZeros = -1;
-constexpr std::size_t kMaxRunDigits = 8;
-
-// The runtime's atoi on a run of digits, saturating like the Windows runtime.
-int digits_value(const char* digits) {
-  long long value = 0;
-  for (; is_ascii_digit(*digits); ++digits) {
-    value = value * 10 + (*digits - '0');
-    if (value > INT_MAX) return INT_MAX;
-  }
-  return static_cast<int>(value);
-}
-
-// Copies [text, end) into prefix; mode n >= 1 bounds it to n - 1 bytes.
-void copy_prefix(char* prefix, const char* text, const char* end, int mode) {
-  std::size_t length = static_cast<std::size_t>(end - text);
-  if (mode >= 1 && length > static_cast<std::size_t>(mode - 1)) length = static_cast<std::size_t>(mode - 1);
-  std::memmove(prefix, text, length);
-  prefix[length] = '\0';
-}
-
-}  // namespace
-
-int KILNUTIL_is_str_has_exponent(const char* text) {
-  if (text == nullptr) return 0;
-  const char* mark = std::strpbrk(text, "EeD");
-  if (mark == nullptr || (mark[1] != '+' && mark[1] != '-') || mark[2] == '\0') return 0;
-  return kiln::text::char_class(static_cast<unsigned char>(mark[2])) == kiln::text::kDigit ? 1 : 0;
-}
+int KILNUTIL_is_str_has_exponent(const char* text) { return has_signed_exponent(text) ? 1 : 0; }
 
 int KILNUTIL_End_Number_ex(char* prefix, char* text, char** number_start, int mode) {
-  if (text == nullptr) return 0;
-  char* const end = text + std::strlen(text);
-  char* run = end;
-  while (run > text && is_ascii_digit(run[-1])) --run;
-  if (mode != kAnyLength && static_cast<std::size_t>(end - run) > kMaxRunDigits) run = end - kMaxRunDigits;
-  if (mode == kSkipZeros) {
-    while (run + 1 < end && *run == '0') ++run;
-  }
-  if (prefix) copy_prefix(prefix, text, run, mode);
-  if (number_start) *number_start = run;
-  return digits_value(run);
+  return split_trailing_number(prefix, text, number_start, mode);
 }
 
 int string_to_prefix_end_number(char* prefix, char* text, bool skip_zeros) {
-  return KILNUTIL_End_Number_ex(prefix, text, nullptr, skip_zeros ? kSkipZeros : 0);
+  return split_trailing_number(prefix, text, nullptr, skip_zeros ? kTrailingNumberSkipZeros : 0);
 }
+
+}  // extern "C"

@@ -137,13 +137,7 @@ HGLOBAL global_free(HGLOBAL mem) {
   return mem;
 }
 
-}  // namespace kiln::platform
-
-extern "C" {
-
-HGLOBAL GlobalAlloc(unsigned int flags, size_t bytes) { return kiln::platform::global_alloc(flags, bytes); }
-
-HGLOBAL GlobalReAlloc(HGLOBAL mem, size_t bytes, unsigned int flags) {
+HGLOBAL global_realloc(HGLOBAL mem, std::size_t bytes, unsigned flags) {
   if (MovableRecord* record = movable_record(mem)) {
     return (flags & GMEM_MODIFY) ? mem : resize_movable(record, bytes, flags);
   }
@@ -153,7 +147,7 @@ HGLOBAL GlobalReAlloc(HGLOBAL mem, size_t bytes, unsigned int flags) {
   return nullptr;
 }
 
-void* GlobalLock(HGLOBAL mem) {
+void* global_lock(HGLOBAL mem) {
   if (MovableRecord* record = movable_record(mem)) {
     if (record->data == nullptr) return nullptr;  // a zero-size block has no memory to lock
     ++record->lock_count;
@@ -162,19 +156,35 @@ void* GlobalLock(HGLOBAL mem) {
   return fixed_header(mem) != nullptr ? mem : nullptr;
 }
 
-BOOL GlobalUnlock(HGLOBAL mem) {
+bool global_unlock(HGLOBAL mem) {
   MovableRecord* record = movable_record(mem);
-  if (record == nullptr || record->lock_count == 0) return 0;
+  if (record == nullptr || record->lock_count == 0) return false;
   --record->lock_count;
   return record->lock_count != 0;
 }
 
-HGLOBAL GlobalFree(HGLOBAL mem) { return kiln::platform::global_free(mem); }
-
-size_t GlobalSize(HGLOBAL mem) {
+std::size_t global_size(HGLOBAL mem) {
   if (MovableRecord* record = movable_record(mem)) return record->size;
   if (FixedHeader* header = fixed_header(mem)) return header->size;
   return 0;
 }
+
+}  // namespace kiln::platform
+
+extern "C" {
+
+HGLOBAL GlobalAlloc(unsigned int flags, size_t bytes) { return kiln::platform::global_alloc(flags, bytes); }
+
+HGLOBAL GlobalReAlloc(HGLOBAL mem, size_t bytes, unsigned int flags) {
+  return kiln::platform::global_realloc(mem, bytes, flags);
+}
+
+void* GlobalLock(HGLOBAL mem) { return kiln::platform::global_lock(mem); }
+
+BOOL GlobalUnlock(HGLOBAL mem) { return kiln::platform::global_unlock(mem) ? 1 : 0; }
+
+HGLOBAL GlobalFree(HGLOBAL mem) { return kiln::platform::global_free(mem); }
+
+size_t GlobalSize(HGLOBAL mem) { return kiln::platform::global_size(mem); }
 
 }  // extern "C"

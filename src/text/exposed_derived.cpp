@@ -1,13 +1,13 @@
 // Searches built on the exposed search: the last hit, a two-character
 // sequence, and a whole word.
+#include "text/exposed_derived.h"
+
 #include "frame/comment_reader.h"
 #include "text/exposed_search.h"
 #include "text/strchr.h"
 #include "text/trim.h"
 
-#include <kilnutil/text.h>
-
-using namespace kiln::text;
+namespace kiln::text {
 
 namespace {
 
@@ -35,43 +35,45 @@ bool stands_alone(const char* text, const char* hit, const char* after) {
 
 }  // namespace
 
-char* KILNUTIL_exposed_char_pos_from_end(const char* text, int target, int* status) {
+const char* last_exposed_char(const char* text, int target, int* status) {
   if (text == nullptr) return nullptr;
   int own_status = 0;
   if (status == nullptr) status = &own_status;
   const char* last = nullptr;
   for (const char* p = text;;) {
     const char* hit = exposed_char(p, target, 0, status);
-    if (*status != 0 || hit == nullptr) return mutable_pos(last);
+    if (*status != 0 || hit == nullptr) return last;
     last = hit;
     p = after_char(hit);
   }
 }
 
-char* KILNUTIL_exposed_2_char_pos(const char* text, int c1, int c2) {
+const char* plain_char_pair(const char* text, int c1, int c2) {
   if (text == nullptr) return nullptr;
   for (const char* p = text;;) {
-    char* hit = kiln::text::search_char(p, c1, 0);
+    const char* hit = search_char(p, c1, 0);
     if (hit == nullptr) return nullptr;
     if (hit[1] == static_cast<char>(c2)) return hit;
     p = after_char(hit);
   }
 }
 
-char* KILNUTIL_exposed_word_pos(const char* text, const char* word, unsigned int flags) {
+const char* exposed_word(const char* text, const char* word, unsigned flags) {
   if (text == nullptr || word == nullptr || *word == '\0') return nullptr;
   const char* rest = word;
   const auto first = static_cast<int>(read_char(rest));
   const bool match_case = (flags & kWordMatchCase) != 0;
   const unsigned search_flags = match_case ? 0 : kCaseBlind;
   for (const char* p = text;;) {
-    if (flags & kWordSkipComments) p = kiln::frame::skip_comments_and_spaces(p);
+    if (flags & kWordSkipComments) p = frame::skip_comments_and_spaces(p);
     const char* hit = exposed_char(p, first, search_flags);
     if (hit == nullptr) return nullptr;
     const char* after = nullptr;
     if (rest_of_word_matches(after_char(hit), rest, match_case, &after) &&
         ((flags & kWordAnywhere) || stands_alone(text, hit, after)))
-      return mutable_pos(hit);
+      return hit;
     p = after_char(hit);
   }
 }
+
+}  // namespace kiln::text

@@ -1,4 +1,4 @@
-// KILNUTIL_exposed_char_pos_ex_loc_ex, its control calls, and the
+// The exposed search of a narrow text, its control calls, and the
 // process-wide state of the exposed search: the escape switch and the last
 // scan position.
 #include "text/exposed_search.h"
@@ -60,12 +60,11 @@ const char* exposed_char(const char* text, int target, unsigned flags, int* stat
   return hit;
 }
 
-}  // namespace kiln::text
-
-char* KILNUTIL_exposed_char_pos_ex_loc_ex(const char* text, int target, unsigned int flags, int* status, int loc,
-                                          const char* end) {
-  using namespace kiln::text;
+const char* exposed_search_or_control(const char* text, int target, unsigned flags, int* status, bool loc,
+                                      const char* end) {
   if (status != nullptr) *status = 0;
-  if (text == nullptr) return mutable_pos(control_call(target, status));
-  return mutable_pos(exposed_char(text, target, flags, status, loc != 0, end));
+  if (text == nullptr) return control_call(target, status);
+  return exposed_char(text, target, flags, status, loc, end);
 }
+
+}  // namespace kiln::text

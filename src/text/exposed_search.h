@@ -229,6 +229,12 @@ const Ch* find_exposed(const Ch* text, int target, unsigned flags, const ScanRul
 const char* exposed_char(const char* text, int target, unsigned flags, int* status = nullptr, bool loc = false,
                          const char* end = nullptr);
 
+// KILNUTIL_exposed_char_pos_ex_loc_ex: the exposed search of a text; for a
+// null text a control call (save and disable, or restore, the escape switch
+// through *status) that hands back the last scan position.
+const char* exposed_search_or_control(const char* text, int target, unsigned flags, int* status, bool loc,
+                                      const char* end);
+
 // The same walk with any match (a set of characters, ...).
 template <class Match>
 const char* exposed_match(const char* text, const Match& match, unsigned flags, bool loc, const char* end = nullptr,

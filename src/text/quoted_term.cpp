@@ -1,13 +1,13 @@
-// KILNUTIL_next_quoted_term: the next separated term, where a term may be
-// quoted (and a doubled quote character stands for itself).
+// The next separated term, where a term may be quoted (and a doubled quote
+// character stands for itself).
+#include "text/quoted_term.h"
+
 #include "text/trim.h"
 #include "text/strchr.h"
 
-#include <kilnutil/text.h>
-
 #include <cstring>
 
-using namespace kiln::text;
+namespace kiln::text {
 
 namespace {
 
@@ -37,7 +37,7 @@ long count_leading(const char* p, unsigned quote) {
 
 }  // namespace
 
-char* KILNUTIL_next_quoted_term_ex_ex(char* dest, const char* text, int sep, int quote, int drop_quotes, int size) {
+char* next_quoted_term(char* dest, const char* text, int sep, int quote, int drop_quotes, int size) {
   if (dest == nullptr || text == nullptr) return nullptr;
   const long room = size == -1 ? static_cast<long>(std::strlen(text)) + 1 : size;
   BoundedCopy copy(dest, room);
@@ -75,10 +75,8 @@ char* KILNUTIL_next_quoted_term_ex_ex(char* dest, const char* text, int sep, int
     if (!copy.put(at, p)) break;
   }
   copy.finish();
-  char* next_sep = kiln::text::search_char(stop, sep, 1);
+  char* next_sep = search_char(stop, sep, 1);
   return next_sep != nullptr ? next_sep + 1 : nullptr;
 }
 
-char* KILNUTIL_next_quoted_term(char* dest, const char* text, int sep) {
-  return KILNUTIL_next_quoted_term_ex_ex(dest, text, sep, '"', 1, -1);
-}
+}  // namespace kiln::text

@@ -1,5 +1,7 @@
 // KILNUTIL_separate_one_statement: statements end at an exposed ";", at a
 // label colon, or with a brace block (and the blocks joined to it by commas).
+#include "text/terms.h"
+
 #include "text/char_set.h"
 #include "text/brackets.h"
 #include "text/exposed_search.h"
@@ -9,7 +11,7 @@
 
 #include <cstring>
 
-using namespace kiln::text;
+namespace kiln::text {
 
 namespace {
 
@@ -65,7 +67,7 @@ char* block_end(char* p, bool* unclosed) {
 
 }  // namespace
 
-char* KILNUTIL_separate_one_statement(char** first, char* text, int* status) {
+char* separate_statement(char** first, char* text, int* status) {
   int own_status = 0;
   if (status == nullptr) status = &own_status;
   *status = 0;
@@ -97,3 +99,5 @@ char* KILNUTIL_separate_one_statement(char** first, char* text, int* status) {
   *next = '\0';
   return next;
 }
+
+}  // namespace kiln::text

@@ -1,4 +1,4 @@
-// KILNUTIL_strchr (exposed and plain modes) and KILNUTIL_strchr_reverse.
+// The character search of narrow text (exposed and plain modes) and its reverse form.
 #include "text/strchr.h"
 
 #include "frame/relaxed.h"
@@ -69,13 +69,3 @@ char* search_char_reverse(const char* text, int c, const char* from) {
 }
 
 }  // namespace kiln::text
-
-extern "C" {
-
-char* KILNUTIL_strchr(const char* text, int c, unsigned int mode) { return kiln::text::search_char(text, c, mode); }
-
-char* KILNUTIL_strchr_reverse(const char* text, int c, const char* from) {
-  return kiln::text::search_char_reverse(text, c, from);
-}
-
-}  // extern "C"

@@ -1,5 +1,7 @@
 // Terms: KILNUTIL_separate_one_term, KILNUTIL_get_preceeding_term and
 // KILNUTIL_get_remaining_term.
+#include "text/terms.h"
+
 #include "text/char_set.h"
 #include "text/enclosing_pairs.h"
 #include "text/strchr.h"
@@ -8,7 +10,7 @@
 
 #include <kilnutil/text.h>
 
-using namespace kiln::text;
+namespace kiln::text {
 
 namespace {
 
@@ -42,7 +44,7 @@ char* first_non_space_or_null(const char* p) {
 
 }  // namespace
 
-char* KILNUTIL_separate_one_term(char** term, char* text, int* op, char** end) {
+char* separate_term(char** term, char* text, int* op, char** end) {
   if (op != nullptr) *op = 0;
   if (text == nullptr) {
     if (term != nullptr) *term = nullptr;
@@ -81,7 +83,7 @@ char* KILNUTIL_separate_one_term(char** term, char* text, int* op, char** end) {
   return first_non_space_or_null(rest);
 }
 
-char* KILNUTIL_get_preceeding_term(char** term, char* closer, char* text) {
+char* preceding_term(char** term, char* closer, char* text) {
   if (closer == nullptr || text == nullptr) return nullptr;
   const int pair = standalone_closer(static_cast<unsigned char>(*closer));
   if (pair == 0) return nullptr;
@@ -97,7 +99,7 @@ char* KILNUTIL_get_preceeding_term(char** term, char* closer, char* text) {
   return found;
 }
 
-char* KILNUTIL_get_remaining_term(char** term, char* text, unsigned short* brackets) {
+char* remaining_term(char** term, char* text, unsigned short* brackets) {
   if (text == nullptr || brackets == nullptr) return nullptr;
   const int pair = standalone_opener(brackets[0]);
   if (pair == 0) {
@@ -115,3 +117,5 @@ char* KILNUTIL_get_remaining_term(char** term, char* text, unsigned short* brack
   if (term != nullptr) *term = trim_both(text);
   return first_non_space_or_null(closer + 1);
 }
+
+}  // namespace kiln::text

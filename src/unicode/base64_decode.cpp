@@ -88,9 +88,3 @@ int decode_base64(const char* src, int length, unsigned char* dst) {
 }
 
 }  // namespace kiln::unicode
-
-int KILNUTIL_decode_base64(const char* src, int len, unsigned char* dst) {
-  return kiln::unicode::decode_base64(src, len, dst);
-}
-
-int decode_base64(const char* src, int len, unsigned char* dst) { return kiln::unicode::decode_base64(src, len, dst); }

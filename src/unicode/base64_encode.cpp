@@ -86,9 +86,3 @@ int encode_base64(const unsigned char* src, int length, char* dst) {
 }
 
 }  // namespace kiln::unicode
-
-int KILNUTIL_encode_base64(const unsigned char* src, int len, char* dst) {
-  return kiln::unicode::encode_base64(src, len, dst);
-}
-
-int encode_base64(const unsigned char* src, int len, char* dst) { return kiln::unicode::encode_base64(src, len, dst); }

@@ -87,32 +87,26 @@ void unread_utf8_char(unsigned c, void* stream, unsigned flags) {
   for (int i = count - 1; i >= 0; --i) reader.unget(static_cast<unsigned char>(bytes[i]));
 }
 
-}  // namespace kiln::unicode
-
-int KILNUTIL_UTF8_fgetc(void* stream, unsigned int flags) { return kiln::unicode::read_utf8_char(stream, flags); }
-
-void KILNUTIL_UTF8_ungetc(unsigned int c, void* stream, unsigned int flags) {
-  kiln::unicode::unread_utf8_char(c, stream, flags);
-}
-
-int KILNUTIL_UTF16_fgetc(void* stream, int big_endian, unsigned int flags) {
+int read_utf16_unit(void* stream, bool big_endian, unsigned flags) {
   if (stream == nullptr) return -1;
   ByteReader reader(stream, flags);
   const int first = reader.get();
   if (first < 0) return -1;
   const int second = reader.get();
   if (second < 0) return -1;
-  return big_endian == 0 ? (first | (second << 8)) : ((first << 8) | second);
+  return big_endian ? ((first << 8) | second) : (first | (second << 8));
 }
 
-int KILNUTIL_UTF16_ungetc(unsigned int unit, void* stream, int big_endian, unsigned int flags) {
+int unread_utf16_unit(unsigned unit, void* stream, bool big_endian, unsigned flags) {
   if (stream == nullptr) return -1;
   ByteReader reader(stream, flags);
   const int low = static_cast<int>(unit & 0xFF);
   const int high = static_cast<int>((unit >> 8) & 0xFF);
   // The byte read first goes back last.
-  const int first = big_endian == 0 ? low : high;
-  const int second = big_endian == 0 ? high : low;
+  const int first = big_endian ? high : low;
+  const int second = big_endian ? low : high;
   reader.unget(second);
   return reader.unget(first);
 }
+
+}  // namespace kiln::unicode

@@ -18,6 +18,34 @@ namespace kiln::unicode {
 // (ANSI), 1 (OEM) and 3 (thread ANSI) are the ANSI code page, 2 the Mac page.
 unsigned resolve_code_page(int code_page);
 
+// UTF-16 text (to its zero unit) as UTF-8 in `dst` of `dst_size` bytes: the
+// byte count without the NUL, 0 for an empty source, -1 when it does not fit.
+int utf16_to_utf8_buffer(char* dst, int dst_size, const KILN_WCHAR* src);
+
+// UTF-8 text (`src_len` bytes, or to its NUL when negative) as UTF-16 in `dst`
+// of `dst_units` units: the unit count without the zero, 0 for an empty
+// source, -1 when it does not fit. An explicit length is terminated one unit
+// past what the size test covers, so callers keep one spare unit.
+int utf8_to_utf16_buffer(KILN_WCHAR* dst, int dst_units, const char* src, int src_len);
+
+// Code-page text (`src_len` bytes, or to its NUL when negative) as UTF-8 in
+// `dst`: the byte count without the NUL, 0 (destination emptied) for an empty
+// source, a failure or a destination too small (dst_size 0: unbounded).
+int code_page_to_utf8_buffer(const char* src, int src_len, char* dst, int dst_size, int code_page);
+
+// UTF-8 text as code-page text in `dst`: the byte count as the platform's
+// converter gives it (with the NUL for a terminated source), 1 for an empty
+// source.
+int utf8_to_code_page_buffer(const char* src, int src_len, char* dst, int dst_size, int code_page);
+
+// Swaps the bytes of every unit up to the zero unit (null: nothing).
+void swap_utf16_bytes(KILN_WCHAR* text);
+
+// Whether the UTF-8 text converts to the code page (system aliases 0..3
+// resolved) without the default character: 1, 0 when it needs it, -1 when it
+// can't be converted at all.
+int utf8_convertibility(const char* text, unsigned code_page);
+
 // Scratch storage of `T`: inline up to InlineBytes, on the heap above.
 template <typename T, size_t InlineBytes = 8192>
 class Scratch {

@@ -45,7 +45,7 @@ int replace_block_text(HGLOBAL* handle, unsigned code_page, WideScratch& units, 
   const int bytes =
       platform::wide_to_multibyte(code_page, units.data(), unit_count, nullptr, 0, default_char, used_report);
   if (bytes <= 0) return -1;
-  HGLOBAL resized = GlobalReAlloc(*handle, static_cast<size_t>(bytes), GMEM_MOVEABLE | GMEM_ZEROINIT);
+  HGLOBAL resized = kiln::platform::global_realloc(*handle, static_cast<size_t>(bytes), GMEM_MOVEABLE | GMEM_ZEROINIT);
   if (resized == nullptr) return -1;
   *handle = resized;
   LockedBlock block(resized);
@@ -69,7 +69,7 @@ static int replace_with_direct_utf8(HGLOBAL* handle, unsigned code_page, LockedB
   if (count < 0) return kNoDirectPath;
   block.unlock();
   if (count == 0) return -1;
-  HGLOBAL resized = GlobalReAlloc(*handle, static_cast<size_t>(count), GMEM_MOVEABLE | GMEM_ZEROINIT);
+  HGLOBAL resized = kiln::platform::global_realloc(*handle, static_cast<size_t>(count), GMEM_MOVEABLE | GMEM_ZEROINIT);
   if (resized == nullptr) return -1;
   *handle = resized;
   LockedBlock target(resized);
@@ -78,18 +78,14 @@ static int replace_with_direct_utf8(HGLOBAL* handle, unsigned code_page, LockedB
   return count;
 }
 
-}  // namespace kiln::unicode
-
-using namespace kiln::unicode;
-
-int KILNUTIL_UNICODE_mbcs_to_UTF8_or_back_handle(HGLOBAL* handle, int direction, int code_page) {
+int convert_handle_text(HGLOBAL* handle, int direction, int code_page) {
   if (handle == nullptr || *handle == nullptr) return 0;
   LockedBlock block(*handle);
   if (block.data() == nullptr) return 0;
   if (block.size() == 0 || *static_cast<const char*>(block.data()) == '\0') return 1;
   const unsigned page = resolve_code_page(code_page);
-  const unsigned from = direction == 0 ? page : kiln::platform::kCodePageUtf8;
-  const unsigned to = direction == 0 ? kiln::platform::kCodePageUtf8 : page;
+  const unsigned from = direction == 0 ? page : platform::kCodePageUtf8;
+  const unsigned to = direction == 0 ? platform::kCodePageUtf8 : page;
   if (direction == 0) {
     if (const int direct = replace_with_direct_utf8(handle, page, block); direct != kNoDirectPath) return direct;
   }
@@ -97,25 +93,18 @@ int KILNUTIL_UNICODE_mbcs_to_UTF8_or_back_handle(HGLOBAL* handle, int direction,
   const int unit_count = block_text_to_wide(from, block, units);
   block.unlock();
   if (unit_count == 0) return -1;
-  int* default_used = direction != 0 ? kiln::frame::default_char_used_flag() : nullptr;
+  int* default_used = direction != 0 ? frame::default_char_used_flag() : nullptr;
   return replace_block_text(handle, to, units, unit_count, default_used);
 }
 
-int KILNUTIL_UNICODE_mbcs_to_UTF8_handle(HGLOBAL* handle, int code_page) {
-  return KILNUTIL_UNICODE_mbcs_to_UTF8_or_back_handle(handle, 0, code_page);
-}
-
-int KILNUTIL_UNICODE_UTF8_to_mbcs_handle(HGLOBAL* handle, int code_page) {
-  return KILNUTIL_UNICODE_mbcs_to_UTF8_or_back_handle(handle, 1, code_page);
-}
-
-HGLOBAL KILNUTIL_UNICODE_UTF8_to_UTF16_handle(HGLOBAL utf8, int movable, int free_source) {
+HGLOBAL utf8_block_to_utf16(HGLOBAL utf8, bool movable, bool free_source) {
   HGLOBAL result = nullptr;
   {
     LockedBlock source(utf8);
     WideScratch units;
-    const int count = source.data() != nullptr ? block_text_to_wide(kiln::platform::kCodePageUtf8, source, units) : 0;
-    if (count > 0) result = GlobalAlloc(movable != 0 ? GHND : GPTR, static_cast<size_t>(count) * sizeof(KILN_WCHAR));
+    const int count = source.data() != nullptr ? block_text_to_wide(platform::kCodePageUtf8, source, units) : 0;
+    if (count > 0)
+      result = platform::global_alloc(movable ? GHND : GPTR, static_cast<size_t>(count) * sizeof(KILN_WCHAR));
     if (result != nullptr) {
       LockedBlock target(result);
       if (target.data() != nullptr) {
@@ -123,6 +112,8 @@ HGLOBAL KILNUTIL_UNICODE_UTF8_to_UTF16_handle(HGLOBAL utf8, int movable, int fre
       }
     }
   }
-  if (free_source != 0 && utf8 != nullptr) GlobalFree(utf8);
+  if (free_source && utf8 != nullptr) platform::global_free(utf8);
   return result;
 }
+
+}  // namespace kiln::unicode

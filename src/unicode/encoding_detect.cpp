@@ -151,15 +151,7 @@ unsigned detect_encoding(const unsigned char* bytes, size_t count, int flags) {
   return run_detector(bytes, count, parameters);
 }
 
-}  // namespace kiln::unicode
-
-using namespace kiln::unicode;
-
-unsigned int KILNUTIL_DetectEncodingBuffer(const unsigned char* bytes, unsigned int count, int flags) {
-  return detect_encoding(bytes, count, flags);
-}
-
-int KILNUTIL_GetBOMSize(unsigned int code) {
+int byte_order_mark_size(unsigned code) {
   if ((code & kEncodingMarkBit) == 0) return 0;
   switch (encoding_family(code)) {
     case kEncodingUtf8: return 3;
@@ -170,3 +162,5 @@ int KILNUTIL_GetBOMSize(unsigned int code) {
     default: return 0;
   }
 }
+
+}  // namespace kiln::unicode

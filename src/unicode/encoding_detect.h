@@ -62,4 +62,11 @@ unsigned detect_stream_encoding(FILE* stream, unsigned max_bytes, int flags);
 // The same over the first bytes of a file; kEncodingNone when it can't be opened.
 unsigned detect_file_encoding(const char* path, unsigned max_bytes, int flags);
 
+// The length of the byte-order mark an encoding code reports (0 without one).
+int byte_order_mark_size(unsigned code);
+
+// How many leading bytes the detector examines in the file at `path` (by its
+// extension: .csv, .txt or any other).
+unsigned detect_buffer_size_for_path(const char* path);
+
 }  // namespace kiln::unicode

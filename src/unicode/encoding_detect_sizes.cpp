@@ -40,6 +40,16 @@ int kind_of_path(const char* path) {
 
 }  // namespace
 
+namespace kiln::unicode {
+
+unsigned detect_buffer_size_for_path(const char* path) {
+  // The count as the getter hands it out (a double), truncated to 32 bits.
+  const auto count = static_cast<double>(g_detect_buffer_sizes[kind_of_path(path)].load());
+  return static_cast<unsigned>(to_unsigned_64(count));
+}
+
+}  // namespace kiln::unicode
+
 int KILNUTIL_DetectEncoding_GetSet_BufferSize(int set, double* value, int kind) {
   if (value == nullptr) return -1;
   if (set != 0 && *value < 0) return -1;
@@ -50,10 +60,4 @@ int KILNUTIL_DetectEncoding_GetSet_BufferSize(int set, double* value, int kind) 
     *value = static_cast<double>(g_detect_buffer_sizes[kind].load());
   }
   return 0;
-}
-
-unsigned int KILNUTIL_DetectEncoding_GetBufSizeFromFilePath(const char* path) {
-  // The count as the getter hands it out (a double), truncated to 32 bits.
-  const auto count = static_cast<double>(g_detect_buffer_sizes[kind_of_path(path)].load());
-  return static_cast<unsigned>(to_unsigned_64(count));
 }

@@ -64,11 +64,3 @@ unsigned detect_file_encoding(const char* path, unsigned max_bytes, int flags) {
 }
 
 }  // namespace kiln::unicode
-
-unsigned int KILNUTIL_DetectEncoding(FILE* stream, unsigned int max_bytes, int flags) {
-  return kiln::unicode::detect_stream_encoding(stream, max_bytes, flags);
-}
-
-unsigned int KILNUTIL_DetectEncodingFile(const char* path, unsigned int max_bytes, int flags) {
-  return kiln::unicode::detect_file_encoding(path, max_bytes, flags);
-}

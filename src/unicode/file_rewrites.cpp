@@ -1,5 +1,6 @@
 #include "unicode/file_rewrites.h"
 
+#include "unicode/char_stream.h"
 #include "unicode/code_page_text.h"
 #include "platform/file_bytes.h"
 #include "platform/file_replacement.h"
@@ -116,7 +117,7 @@ int convert_streaming(FILE* stream, const char* path, unsigned code_page, long l
   GrowingBytes output;
   if (!output.grow(static_cast<size_t>(size - 3) + 1)) return kRewriteNoMemoryForText;
   for (;;) {
-    const int character = KILNUTIL_UTF8_fgetc(stream, 0);
+    const int character = read_utf8_char(stream, 0);
     if (character == -1) break;
     const auto unit = static_cast<KILN_WCHAR>(character & 0xFFFF);
     char bytes[4];
@@ -151,17 +152,13 @@ int convert_utf8_file_to_code_page(const char* path, int code_page, long long st
   return result;
 }
 
-}  // namespace kiln::unicode
-
-using namespace kiln::unicode;
-
-int InsertUTF8BOM(const char* path, int only_if_non_ascii) {
+int insert_utf8_mark(const char* path, bool only_if_non_ascii) {
   FileBytes file;
   if (const ReadStatus status = read_whole_file(path, file); status != ReadStatus::kOk)
     return read_failure_code(status);
   const unsigned char* bytes = file.data.get();
   if (has_utf8_mark(bytes, file.size)) return 0;
-  if (only_if_non_ascii != 0 && std::all_of(bytes, bytes + file.size, [](unsigned char b) { return b < 0x80; })) {
+  if (only_if_non_ascii && std::all_of(bytes, bytes + file.size, [](unsigned char b) { return b < 0x80; })) {
     return 1;
   }
   switch (replace_file(path, {{kUtf8Mark, sizeof kUtf8Mark}, {bytes, file.size}})) {
@@ -173,6 +170,4 @@ int InsertUTF8BOM(const char* path, int only_if_non_ascii) {
   return 1;  // the file could not be rewritten
 }
 
-int ConvertUTF8TextFileToCodePageIfPossible(const char* path, int code_page) {
-  return convert_utf8_file_to_code_page(path, code_page, kStreamingConversionSize);
-}
+}  // namespace kiln::unicode

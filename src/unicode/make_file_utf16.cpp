@@ -4,21 +4,16 @@
 #include "platform/file_system.h"
 #include "unicode/code_page_text.h"
 #include "unicode/encoding_detect.h"
+#include "unicode/file_rewrites.h"
 #include "platform/file_bytes.h"
 #include "platform/file_replacement.h"
 
 #include <kilnutil/unicode.h>
 
+#include <exception>
 #include <string>
 
 namespace kiln::unicode {
-
-using platform::FileBytes;
-using platform::read_whole_file;
-using platform::ReadStatus;
-using platform::replace_file;
-using platform::ReplaceStatus;
-using platform::stream_size;
 
 namespace {
 
@@ -46,26 +41,24 @@ void make_folders_for(const std::string& path) {
 }
 
 bool write_mark_only(const std::string& path) {
-  return replace_file(path.c_str(), {{kUtf16LeMark, sizeof kUtf16LeMark}}) == ReplaceStatus::kDone;
+  return platform::replace_file(path.c_str(), {{kUtf16LeMark, sizeof kUtf16LeMark}}) == platform::ReplaceStatus::kDone;
 }
 
 // Rewrites code-page text without a mark as UTF-16LE with the mark.
 void rewrite_as_utf16(const std::string& path) {
-  FileBytes file;
-  if (read_whole_file(path.c_str(), file) != ReadStatus::kOk) return;
+  platform::FileBytes file;
+  if (platform::read_whole_file(path.c_str(), file) != platform::ReadStatus::kOk) return;
   if (file.size >= 2 && file.data[0] == 0xFF && file.data[1] == 0xFE) return;
   if (file.size > 0x7FFFFFFF) return;
   WideScratch units;
   const int count = to_wide(resolve_code_page(-1), reinterpret_cast<const char*>(file.data.get()),
                             static_cast<int>(file.size), units);
   if (count == 0) return;
-  replace_file(path.c_str(),
-               {{kUtf16LeMark, sizeof kUtf16LeMark}, {units.data(), static_cast<size_t>(count) * sizeof(KILN_WCHAR)}});
+  platform::replace_file(path.c_str(), {{kUtf16LeMark, sizeof kUtf16LeMark},
+                                        {units.data(), static_cast<size_t>(count) * sizeof(KILN_WCHAR)}});
 }
 
-}  // namespace
-
-static int make_file_utf16(const std::string& path) {
+int make_file_utf16(const std::string& path) {
   if (path.empty()) return 0;
   if (!platform::file_exists(path.c_str())) {
     make_folders_for(path);
@@ -75,7 +68,7 @@ static int make_file_utf16(const std::string& path) {
   if (family == kEncodingUtf16Le) return 0;
   FILE* stream = std::fopen(path.c_str(), "rb");
   if (stream == nullptr) return 0;
-  const long long size = stream_size(stream);
+  const long long size = platform::stream_size(stream);
   std::fclose(stream);
   if (size < 0 || size > 0xFFFFFFFFll) return 0;
   if (size == 0) return write_mark_only(path) ? 1 : 0;
@@ -83,21 +76,23 @@ static int make_file_utf16(const std::string& path) {
   return 0;
 }
 
-}  // namespace kiln::unicode
+}  // namespace
 
-int KILNUTIL_MakeFileUTF16(const KILN_WCHAR* path) {
+int make_file_utf16_at(const KILN_WCHAR* path) {
   if (path == nullptr) return 0;
   try {
-    return kiln::unicode::make_file_utf16(kiln::unicode::utf8_path(path));
+    return make_file_utf16(utf8_path(path));
   } catch (const std::exception&) {
     return 0;
   }
 }
 
-void make_file_UTF16(const char* path, int delete_first) {
+void make_file_utf16_from_utf8(const char* path, bool delete_first) {
   if (path == nullptr) return;
-  kiln::unicode::WideScratch units;
-  if (kiln::unicode::to_wide(kiln::platform::kCodePageUtf8, path, -1, units) == 0) return;
-  if (delete_first != 0) kiln::platform::remove_file(path);
-  KILNUTIL_MakeFileUTF16(units.data());
+  WideScratch units;
+  if (to_wide(platform::kCodePageUtf8, path, -1, units) == 0) return;
+  if (delete_first) platform::remove_file(path);
+  make_file_utf16_at(units.data());
 }
+
+}  // namespace kiln::unicode

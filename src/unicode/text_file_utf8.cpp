@@ -10,6 +10,7 @@
 #include "unicode/global_text.h"
 #include "unicode/text_file_utf8.h"
 #include "unicode/utf16_stream_to_utf8.h"
+#include "unicode/utf8_paths.h"
 
 #include <kilnutil/unicode.h>
 
@@ -28,12 +29,12 @@ constexpr unsigned char kUtf8Mark[] = {0xEF, 0xBB, 0xBF};
 
 void set_temporary_path(TextFileToUTF8Context* context, const char* path) {
   context->temp_path[0] = 0;
-  if (path != nullptr) KILNUTIL_UNICODE_UTF8_to_UTF16_buffers_ex(context->temp_path, kTempPathUnits, path, -1);
+  if (path != nullptr) utf8_to_utf16_buffer(context->temp_path, kTempPathUnits, path, -1);
 }
 
 std::string temporary_path_of(const TextFileToUTF8Context* context) {
   char path[3 * kTempPathUnits + 1];
-  if (KILNUTIL_UNICODE_UTF16_to_UTF8_buffers(path, sizeof path, context->temp_path) <= 0) return {};
+  if (utf16_to_utf8_buffer(path, sizeof path, context->temp_path) <= 0) return {};
   return path;
 }
 
@@ -41,20 +42,20 @@ std::string temporary_path_of(const TextFileToUTF8Context* context) {
 // (The stream handed back is that reopened one: a stream already closed can't
 // be handed out here, as its memory is gone.)
 FILE* reopen_with_fallback(TextFileToUTF8Context* context, HGLOBAL block, FILE* stream) {
-  if (block != nullptr) GlobalFree(block);
+  if (block != nullptr) kiln::platform::global_free(block);
   if (stream != nullptr) std::fclose(stream);
-  return KILNUTIL_UTF8_fopen(context->path, context->fallback_mode);
+  return open_utf8_path(context->path, context->fallback_mode);
 }
 
 // Reads what follows the mark into a zero-filled block two bytes longer.
 HGLOBAL read_after_mark(FILE* stream, long long length, unsigned mark_size, size_t& size) {
   size = length > mark_size ? static_cast<size_t>(length - mark_size) : 0;
-  HGLOBAL block = GlobalAlloc(GHND, size + 2);
+  HGLOBAL block = kiln::platform::global_alloc(GHND, size + 2);
   if (block == nullptr) return nullptr;
   LockedBlock locked(block);
   if (locked.data() == nullptr || !platform::seek_stream(stream, mark_size)) {
     locked.unlock();
-    GlobalFree(block);
+    kiln::platform::global_free(block);
     return nullptr;
   }
   size = std::fread(locked.data(), 1, size, stream);
@@ -97,7 +98,7 @@ FILE* finish_copy(TextFileToUTF8Context* context, FILE* copy, const std::string&
   const bool complete = std::fclose(copy) == 0 && written;
   if (!complete) discard_copy(context, nullptr, path);
   std::fclose(stream);
-  context->converted_stream = complete ? KILNUTIL_UTF8_fopen(path.c_str(), converted_copy_mode(context)) : nullptr;
+  context->converted_stream = complete ? open_utf8_path(path.c_str(), converted_copy_mode(context)) : nullptr;
   return context->converted_stream;
 }
 
@@ -108,7 +109,7 @@ FILE* copy_code_page_text(TextFileToUTF8Context* context, FILE* stream, long lon
   if (block == nullptr) return reopen_with_fallback(context, nullptr, stream);
   int utf8_length = 0;
   if (size > 0) {
-    utf8_length = KILNUTIL_UNICODE_mbcs_to_UTF8_handle(&block, -1) - 1;
+    utf8_length = convert_handle_text(&block, 0, -1) - 1;
     if (utf8_length < 1) return reopen_with_fallback(context, block, stream);
   }
   std::string path;
@@ -119,7 +120,7 @@ FILE* copy_code_page_text(TextFileToUTF8Context* context, FILE* stream, long lon
     LockedBlock text(block);
     if (text.data() != nullptr) written = std::fwrite(text.data(), 1, static_cast<size_t>(utf8_length), copy);
   }
-  GlobalFree(block);
+  kiln::platform::global_free(block);
   return finish_copy(context, copy, path, written == static_cast<size_t>(utf8_length), stream);
 }
 
@@ -146,9 +147,9 @@ FILE* open_text_file_as_utf8(FILE* stream, TextFileToUTF8Context* context) {
   if (context == nullptr || context->path[0] == '\0' || context->fallback_mode == nullptr || stream == nullptr) {
     return stream;
   }
-  const unsigned max_bytes = KILNUTIL_DetectEncoding_GetBufSizeFromFilePath(context->path);
+  const unsigned max_bytes = detect_buffer_size_for_path(context->path);
   const unsigned code = detect_stream_encoding(stream, max_bytes, context->guess ? 0 : kDetectMarkOnly);
-  const auto mark_size = static_cast<unsigned>(KILNUTIL_GetBOMSize(code));
+  const auto mark_size = static_cast<unsigned>(byte_order_mark_size(code));
   context->mark_size = static_cast<unsigned char>(mark_size);
   platform::seek_stream(stream, mark_size);
   const unsigned family = encoding_family(code);
@@ -157,7 +158,7 @@ FILE* open_text_file_as_utf8(FILE* stream, TextFileToUTF8Context* context) {
     if (context->keep_mark) platform::seek_stream(stream, 0);
     if (!context->reopen_as_utf8) return stream;
     std::fclose(stream);
-    return KILNUTIL_UTF8_fopen(context->path, "rt, ccs=UTF-8");
+    return open_utf8_path(context->path, "rt, ccs=UTF-8");
   }
   platform::seek_stream(stream, 0);
   // Big-endian text is not converted.
@@ -165,7 +166,7 @@ FILE* open_text_file_as_utf8(FILE* stream, TextFileToUTF8Context* context) {
 
   const long long length = stream_size(stream);
   std::fclose(stream);
-  FILE* raw = KILNUTIL_UTF8_fopen(context->path, "rb");
+  FILE* raw = open_utf8_path(context->path, "rb");
   if (raw == nullptr || length < 0) return reopen_with_fallback(context, nullptr, raw);
   if (family == kEncodingUtf16Le) return copy_utf16_text(context, raw, length, mark_size);
   return copy_code_page_text(context, raw, length, mark_size);
@@ -181,15 +182,3 @@ void close_text_file_as_utf8(FILE* stream, TextFileToUTF8Context* context) {
 }
 
 }  // namespace kiln::unicode
-
-void KILNUTIL_UNICODE_open_text_file_to_UTF8_INIT(TextFileToUTF8Context* context) {
-  if (context != nullptr) std::memset(context, 0, sizeof *context);
-}
-
-FILE* KILNUTIL_UNICODE_open_text_file_to_UTF8_BEGIN(FILE* stream, TextFileToUTF8Context* context) {
-  return kiln::unicode::open_text_file_as_utf8(stream, context);
-}
-
-void KILNUTIL_UNICODE_open_text_file_to_UTF8_END(FILE* stream, TextFileToUTF8Context* context) {
-  kiln::unicode::close_text_file_as_utf8(stream, context);
-}

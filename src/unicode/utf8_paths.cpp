@@ -3,6 +3,7 @@
 // (a path or mode longer than their fixed buffers) is refused the same way.
 #include "platform/file_system.h"
 #include "unicode/code_page_text.h"
+#include "unicode/utf8_paths.h"
 
 #include <kilnutil/unicode.h>
 
@@ -65,7 +66,9 @@ bool open_rule(unsigned disposition, OpenRule& rule) {
 
 }  // namespace
 
-FILE* KILNUTIL_UTF8_fopen(const char* path, const char* mode) {
+namespace kiln::unicode {
+
+FILE* open_utf8_path(const char* path, const char* mode) {
   if (!fits_wide_buffer(path, kPathUnits) || !fits_wide_buffer(mode, kModeUnits)) {
     errno = ENOENT;
     return nullptr;
@@ -73,8 +76,7 @@ FILE* KILNUTIL_UTF8_fopen(const char* path, const char* mode) {
   return std::fopen(path, stdio_mode(mode).c_str());
 }
 
-HANDLE KILNUTIL_UTF8_CreateFile(const char* path, unsigned int access, unsigned int /*share_mode*/, void* /*security*/,
-                                unsigned int disposition, unsigned int flags_and_attributes, HANDLE /*template_file*/) {
+HANDLE create_utf8_path(const char* path, unsigned access, unsigned disposition, unsigned flags_and_attributes) {
   OpenRule rule = OpenRule::kOpenExisting;
   const bool known_rule = open_rule(disposition, rule);
   if (!fits_wide_buffer(path, kPathUnits) || !known_rule) {
@@ -84,12 +86,12 @@ HANDLE KILNUTIL_UTF8_CreateFile(const char* path, unsigned int access, unsigned 
   const bool reads = (access & (kGenericRead | kGenericAll)) != 0;
   const bool writes = (access & (kGenericWrite | kGenericAll)) != 0;
   const bool read_only = (flags_and_attributes & kAttributeReadOnly) != 0;
-  const int descriptor = kiln::platform::open_file_descriptor(path, reads, writes, rule, read_only);
+  const int descriptor = platform::open_file_descriptor(path, reads, writes, rule, read_only);
   if (descriptor < 0) return INVALID_HANDLE_VALUE;
   return reinterpret_cast<HANDLE>(static_cast<intptr_t>(descriptor));
 }
 
-int KILNUTIL_UTF8__access(const char* path, int mode) {
+int test_utf8_path_access(const char* path, int mode) {
   if (!fits_wide_buffer(path, kPathUnits)) {
     errno = ENOENT;
     return -1;
@@ -100,5 +102,7 @@ int KILNUTIL_UTF8__access(const char* path, int mode) {
     errno = EINVAL;
     return -1;
   }
-  return kiln::platform::test_file_access(path, mode);
+  return platform::test_file_access(path, mode);
 }
+
+}  // namespace kiln::unicode

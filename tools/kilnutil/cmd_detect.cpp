@@ -78,16 +78,13 @@ int run_detect(Args args) {
   DecodeOptions options;
   bool json = false;
   std::vector<std::string> paths;
-  for (std::size_t i = 0; i < args.size(); ++i) {
-    const std::string arg = args[i];
-    std::string problem;
-    const OptionMatch match = take_text_option(args, i, options, problem);
-    if (match == OptionMatch::kWrong) return usage_error(problem);
-    if (match == OptionMatch::kTaken) continue;
+  const int parsed = parse_with_text_options(args, options, [&](const std::string& arg, std::size_t&) -> int {
     if (arg == "--json") json = true;
     else if (arg == "-" || arg[0] != '-') paths.push_back(arg);
     else return usage_error("detect: unknown option '" + arg + "'");
-  }
+    return kOk;
+  });
+  if (parsed != kOk) return parsed;
   if (paths.empty()) return usage_error("detect takes one or more files (- for standard input)");
   int status = kOk;
   std::string listing = "[";

@@ -24,12 +24,7 @@ struct Options {
 };
 
 int parse(Args args, Options& options) {
-  for (std::size_t i = 0; i < args.size(); ++i) {
-    const std::string arg = args[i];
-    std::string problem;
-    const OptionMatch match = take_text_option(args, i, options.decode, problem);
-    if (match == OptionMatch::kWrong) return usage_error(problem);
-    if (match == OptionMatch::kTaken) continue;
+  const int status = parse_with_text_options(args, options.decode, [&](const std::string& arg, std::size_t& i) -> int {
     if (arg == "-o" && i + 1 < args.size()) {
       options.output = args[++i];
     } else if (options.input.empty() && (arg == "-" || arg[0] != '-')) {
@@ -37,9 +32,10 @@ int parse(Args args, Options& options) {
     } else {
       return usage_error("to-utf8 takes [FILE|-] [-o OUT] [-c CODEPAGE] [--force] [--replace] (got '" + arg + "')");
     }
-  }
+    return kOk;
+  });
   if (options.input.empty()) options.input = kStandardStream;
-  return kOk;
+  return status;
 }
 
 bool same_file(const std::string& a, const std::string& b) {

@@ -46,12 +46,7 @@ std::optional<char> separator_of(std::string_view name) {
 }  // namespace
 
 int parse_preview_options(Args args, PreviewOptions& options) {
-  for (std::size_t i = 0; i < args.size(); ++i) {
-    const std::string arg = args[i];
-    std::string problem;
-    const OptionMatch match = take_text_option(args, i, options.decode, problem);
-    if (match == OptionMatch::kWrong) return usage_error(problem);
-    if (match == OptionMatch::kTaken) continue;
+  const int parsed = parse_with_text_options(args, options.decode, [&](const std::string& arg, std::size_t& i) -> int {
     const bool takes_value = arg == "--rows" || arg == "--cols" || arg == "--limit" || arg == "--sep" ||
                              arg == "--decimal" || arg == "--skip" || arg == "--comment" || arg == "--width";
     if (takes_value && i + 1 >= args.size()) return usage_error(arg + " needs a value (see 'kilnutil help preview')");
@@ -95,7 +90,9 @@ int parse_preview_options(Args args, PreviewOptions& options) {
     } else {
       return usage_error("preview takes one file (got '" + options.path + "' and '" + arg + "')");
     }
-  }
+    return kOk;
+  });
+  if (parsed != kOk) return parsed;
   if (options.path.empty())
     return usage_error("preview needs a file, or - for standard input (see 'kilnutil help preview')");
   return kOk;
