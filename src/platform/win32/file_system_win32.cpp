@@ -1,0 +1,82 @@
+// File-system services by the wide Win32 and runtime-library calls; the
+// library's UTF-8 paths are converted to UTF-16 for every call.
+#include "platform/file_system.h"
+#include "platform/win32/wide_text.h"
+
+#include <windows.h>
+
+#include <fcntl.h>
+#include <io.h>
+#include <sys/stat.h>
+
+#include <cerrno>
+
+namespace kiln::platform {
+
+using win32::wide_from_utf8;
+
+long long stream_position(std::FILE* stream) { return _ftelli64(stream); }
+
+bool seek_stream(std::FILE* stream, long long offset) { return _fseeki64(stream, offset, SEEK_SET) == 0; }
+
+bool seek_stream_end(std::FILE* stream) { return _fseeki64(stream, 0, SEEK_END) == 0; }
+
+bool file_exists(const char* path) {
+  return GetFileAttributesW(wide_from_utf8(path).c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+int test_file_access(const char* path, int mode) { return _waccess(wide_from_utf8(path).c_str(), mode); }
+
+bool remove_file(const char* path) { return DeleteFileW(wide_from_utf8(path).c_str()) != 0; }
+
+bool make_folder(const char* path) {
+  return CreateDirectoryW(wide_from_utf8(path).c_str(), nullptr) != 0 || GetLastError() == ERROR_ALREADY_EXISTS;
+}
+
+std::string temporary_folder() {
+  wchar_t folder[MAX_PATH + 1];
+  const DWORD length = GetTempPathW(MAX_PATH + 1, folder);
+  if (length == 0 || length > MAX_PATH) return ".";
+  std::string result = win32::utf8_from_wide(folder);
+  // Without the separator that ends it, as the POSIX folder is given.
+  while (result.size() > 1 && (result.back() == '\\' || result.back() == '/')) result.pop_back();
+  return result;
+}
+
+std::FILE* create_temporary_file(const std::string& folder, const char* prefix, std::string& path) {
+  wchar_t name[MAX_PATH];
+  if (GetTempFileNameW(wide_from_utf8(folder.c_str()).c_str(), wide_from_utf8(prefix).c_str(), 0, name) == 0) {
+    return nullptr;
+  }
+  std::FILE* stream = _wfopen(name, L"wbN");
+  if (stream == nullptr) {
+    DeleteFileW(name);
+    return nullptr;
+  }
+  path = win32::utf8_from_wide(name);
+  return stream;
+}
+
+namespace {
+
+int creation_flags(OpenRule rule) {
+  switch (rule) {
+    case OpenRule::kCreateNew: return _O_CREAT | _O_EXCL;
+    case OpenRule::kCreateAlways: return _O_CREAT | _O_TRUNC;
+    case OpenRule::kOpenExisting: return 0;
+    case OpenRule::kOpenAlways: return _O_CREAT;
+    case OpenRule::kTruncateExisting: return _O_TRUNC;
+  }
+  return 0;
+}
+
+}  // namespace
+
+int open_file_descriptor(const char* path, bool reads, bool writes, OpenRule rule, bool create_read_only) {
+  const int access_flags = reads && writes ? _O_RDWR : writes ? _O_WRONLY : _O_RDONLY;
+  const int permissions = create_read_only ? _S_IREAD : _S_IREAD | _S_IWRITE;
+  return _wopen(wide_from_utf8(path).c_str(), _O_BINARY | _O_NOINHERIT | access_flags | creation_flags(rule),
+                permissions);
+}
+
+}  // namespace kiln::platform
