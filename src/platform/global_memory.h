@@ -16,4 +16,8 @@ HGLOBAL global_alloc(unsigned flags, std::size_t bytes);
 // Frees a block: null on success, the handle itself when it is not one.
 HGLOBAL global_free(HGLOBAL mem);
 
+// Whether the exported global-memory names are the operating system's own
+// (Windows) rather than the library's Windows-compatible ones (POSIX).
+bool global_memory_is_the_systems();
+
 }  // namespace kiln::platform

@@ -27,6 +27,8 @@ int multibyte_to_wide(unsigned code_page, const char* text, int length, KILN_WCH
 int wide_to_multibyte(unsigned code_page, const KILN_WCHAR* text, int length, char* out, int capacity,
                       const char* default_char, bool* used_default) {
   if (text == nullptr || capacity < 0 || (capacity > 0 && out == nullptr) || length == 0) return 0;
+  // The rule for UTF-8, kept here because not every Windows version checks it.
+  if (code_page == CP_UTF8 && (default_char != nullptr || used_default != nullptr)) return 0;
   BOOL defaulted = FALSE;
   const int written = WideCharToMultiByte(code_page, 0, text, length, out, capacity, default_char,
                                           used_default != nullptr ? &defaulted : nullptr);

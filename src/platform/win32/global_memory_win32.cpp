@@ -8,4 +8,6 @@ HGLOBAL global_alloc(unsigned flags, std::size_t bytes) { return GlobalAlloc(fla
 
 HGLOBAL global_free(HGLOBAL mem) { return GlobalFree(mem); }
 
+bool global_memory_is_the_systems() { return true; }
+
 }  // namespace kiln::platform

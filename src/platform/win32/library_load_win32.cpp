@@ -33,6 +33,8 @@ bool register_script_window_class(HINSTANCE instance) {
 
 void* library_base_address() { return this_module(); }
 
+bool load_hook_runs_when_linked_statically() { return false; }
+
 }  // namespace kiln::platform
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID reserved);
