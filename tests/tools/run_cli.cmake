@@ -14,6 +14,12 @@ if(STDIN)
 endif()
 execute_process(COMMAND ${EMULATOR} "${TOOL}" ${args} ${input_args}
   RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
+# A Windows program writes its standard streams in text mode, each line end
+# as CR LF: read them back as the program wrote them.
+if(EMULATOR)
+  string(REPLACE "\r\n" "\n" out "${out}")
+  string(REPLACE "\r\n" "\n" err "${err}")
+endif()
 message("exit code: ${rc}\n--- stdout\n${out}--- stderr\n${err}---")
 if(NOT rc STREQUAL RC)
   message(FATAL_ERROR "expected exit code ${RC}, got ${rc}")
