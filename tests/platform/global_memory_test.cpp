@@ -57,7 +57,9 @@ TEST(GlobalMemory, FixedBlockMovesOnlyWhenAllowed) {
   EXPECT_EQ(GlobalSize(block), 8u);
   // Growth without GMEM_MOVEABLE: the library's functions refuse it; the
   // system's grow the block where it is when the heap has room there.
-  if (!kiln::platform::global_memory_is_the_systems()) EXPECT_EQ(GlobalReAlloc(block, 64, 0), nullptr);
+  if (!kiln::platform::global_memory_is_the_systems()) {
+    EXPECT_EQ(GlobalReAlloc(block, 64, 0), nullptr);
+  }
   HGLOBAL moved = GlobalReAlloc(block, 64, GMEM_MOVEABLE | GMEM_ZEROINIT);
   ASSERT_NE(moved, nullptr);
   EXPECT_EQ(std::memcmp(moved, "01234567", 8), 0);
