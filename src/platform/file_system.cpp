@@ -19,6 +19,8 @@ bool seek_stream(std::FILE* stream, long long offset) {
 
 bool seek_stream_end(std::FILE* stream) { return fseeko(stream, 0, SEEK_END) == 0; }
 
+std::FILE* open_stream(const char* path, const char* mode) { return std::fopen(path, mode); }
+
 bool file_exists(const char* path) { return access(path, F_OK) == 0; }
 
 int test_file_access(const char* path, int mode) { return access(path, mode); }

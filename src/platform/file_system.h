@@ -15,6 +15,10 @@ bool seek_stream(std::FILE* stream, long long offset);
 // Moves to the end; false on failure.
 bool seek_stream_end(std::FILE* stream);
 
+// Opens the file as std::fopen does, with a UTF-8 path (on Windows by the
+// wide runtime call); null (errno set) on failure.
+std::FILE* open_stream(const char* path, const char* mode);
+
 bool file_exists(const char* path);
 // The runtime's access test: mode 0 exists, 2 writable, 4 readable, 6 both.
 // 0 when granted, -1 (errno set) when not.

@@ -62,7 +62,7 @@ unsigned int KILNUTIL_DetectEncoding(FILE* stream, unsigned int max_bytes, int f
 
 unsigned int KILNUTIL_DetectEncodingFile(const char* path, unsigned int max_bytes, int flags) {
   if (path == nullptr) return kiln::unicode::kEncodingNone;
-  FILE* stream = std::fopen(path, "rb");
+  FILE* stream = kiln::platform::open_stream(path, "rb");
   if (stream == nullptr) return kiln::unicode::kEncodingNone;
   const unsigned code = kiln::unicode::detect_stream_encoding(stream, max_bytes, flags);
   std::fclose(stream);

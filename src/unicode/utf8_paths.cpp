@@ -70,7 +70,7 @@ FILE* KILNUTIL_UTF8_fopen(const char* path, const char* mode) {
     errno = ENOENT;
     return nullptr;
   }
-  return std::fopen(path, stdio_mode(mode).c_str());
+  return kiln::platform::open_stream(path, stdio_mode(mode).c_str());
 }
 
 HANDLE KILNUTIL_UTF8_CreateFile(const char* path, unsigned int access, unsigned int /*share_mode*/, void* /*security*/,

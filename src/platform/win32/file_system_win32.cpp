@@ -21,6 +21,15 @@ bool seek_stream(std::FILE* stream, long long offset) { return _fseeki64(stream,
 
 bool seek_stream_end(std::FILE* stream) { return _fseeki64(stream, 0, SEEK_END) == 0; }
 
+std::FILE* open_stream(const char* path, const char* mode) {
+  // "e" (not inherited by child processes) is spelt "N" by this runtime.
+  std::wstring wide_mode = wide_from_utf8(mode);
+  for (wchar_t& letter : wide_mode) {
+    if (letter == L'e') letter = L'N';
+  }
+  return _wfopen(wide_from_utf8(path).c_str(), wide_mode.c_str());
+}
+
 bool file_exists(const char* path) {
   return GetFileAttributesW(wide_from_utf8(path).c_str()) != INVALID_FILE_ATTRIBUTES;
 }
