@@ -1,6 +1,7 @@
 // File-system services by the wide Win32 and runtime-library calls; the
 // library's UTF-8 paths are converted to UTF-16 for every call.
 #include "platform/file_system.h"
+#include "platform/open_flags.h"
 #include "platform/win32/wide_text.h"
 
 #include <windows.h>
@@ -66,26 +67,10 @@ std::FILE* create_temporary_file(const std::string& folder, const char* prefix, 
   return stream;
 }
 
-namespace {
-
-int creation_flags(OpenRule rule) {
-  switch (rule) {
-    case OpenRule::kCreateNew: return _O_CREAT | _O_EXCL;
-    case OpenRule::kCreateAlways: return _O_CREAT | _O_TRUNC;
-    case OpenRule::kOpenExisting: return 0;
-    case OpenRule::kOpenAlways: return _O_CREAT;
-    case OpenRule::kTruncateExisting: return _O_TRUNC;
-  }
-  return 0;
-}
-
-}  // namespace
-
 int open_file_descriptor(const char* path, bool reads, bool writes, OpenRule rule, bool create_read_only) {
-  const int access_flags = reads && writes ? _O_RDWR : writes ? _O_WRONLY : _O_RDONLY;
   const int permissions = create_read_only ? _S_IREAD : _S_IREAD | _S_IWRITE;
-  return _wopen(wide_from_utf8(path).c_str(), _O_BINARY | _O_NOINHERIT | access_flags | creation_flags(rule),
-                permissions);
+  return _wopen(wide_from_utf8(path).c_str(),
+                _O_BINARY | _O_NOINHERIT | access_and_creation_flags(reads, writes, rule), permissions);
 }
 
 }  // namespace kiln::platform
