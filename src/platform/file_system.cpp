@@ -56,4 +56,11 @@ int open_file_descriptor(const char* path, bool reads, bool writes, OpenRule rul
   return open(path, O_CLOEXEC | access_and_creation_flags(reads, writes, rule), permissions);
 }
 
+void* open_file_handle(const char* path, bool reads, bool writes, OpenRule rule, bool create_read_only) {
+  const int descriptor = open_file_descriptor(path, reads, writes, rule, create_read_only);
+  return descriptor < 0 ? invalid_file_handle() : reinterpret_cast<void*>(static_cast<intptr_t>(descriptor));
+}
+
+bool close_file_handle(void* handle) { return close(static_cast<int>(reinterpret_cast<intptr_t>(handle))) == 0; }
+
 }  // namespace kiln::platform

@@ -3,6 +3,7 @@
 // by path with explicit creation rules. Paths are UTF-8.
 #pragma once
 
+#include <cstdint>
 #include <cstdio>
 #include <string>
 
@@ -41,5 +42,15 @@ enum class OpenRule { kCreateNew, kCreateAlways, kOpenExisting, kOpenAlways, kTr
 // by child processes; a file created here is read-only when asked. -1 (errno
 // set) on failure.
 int open_file_descriptor(const char* path, bool reads, bool writes, OpenRule rule, bool create_read_only);
+
+// The invalid file handle, (void*)-1 as on Windows.
+inline void* invalid_file_handle() { return reinterpret_cast<void*>(static_cast<std::intptr_t>(-1)); }
+// The file opened as by open_file_descriptor, as the system's file handle a
+// host closes: on POSIX the descriptor as a pointer (closed by close()), on
+// Windows a CreateFileW handle shared for reading and writing (closed by
+// CloseHandle). invalid_file_handle() on failure.
+void* open_file_handle(const char* path, bool reads, bool writes, OpenRule rule, bool create_read_only);
+// Closes a handle of open_file_handle; false when it is no open handle.
+bool close_file_handle(void* handle);
 
 }  // namespace kiln::platform

@@ -84,9 +84,7 @@ HANDLE KILNUTIL_UTF8_CreateFile(const char* path, unsigned int access, unsigned 
   const bool reads = (access & (kGenericRead | kGenericAll)) != 0;
   const bool writes = (access & (kGenericWrite | kGenericAll)) != 0;
   const bool read_only = (flags_and_attributes & kAttributeReadOnly) != 0;
-  const int descriptor = kiln::platform::open_file_descriptor(path, reads, writes, rule, read_only);
-  if (descriptor < 0) return INVALID_HANDLE_VALUE;
-  return reinterpret_cast<HANDLE>(static_cast<intptr_t>(descriptor));
+  return kiln::platform::open_file_handle(path, reads, writes, rule, read_only);
 }
 
 int KILNUTIL_UTF8__access(const char* path, int mode) {

@@ -46,6 +46,23 @@ TEST(PlatformFiles, ReplacementRefusesWhenTheOriginalVanished) {
   EXPECT_EQ(folder.entry_count(), 0u);
 }
 
+TEST(PlatformFiles, FileHandlesFollowTheCreationRules) {
+  using kiln::platform::invalid_file_handle;
+  using kiln::platform::OpenRule;
+  kiln_test::TempFolder folder;
+  const std::string path = folder.file("\xC3\xBC.bin");  // "ü.bin"
+  const auto open = [&](OpenRule rule) { return kiln::platform::open_file_handle(path.c_str(), true, true, rule, false); };
+  EXPECT_EQ(open(OpenRule::kOpenExisting), invalid_file_handle());
+  void* created = open(OpenRule::kCreateNew);
+  ASSERT_NE(created, invalid_file_handle());
+  EXPECT_TRUE(kiln::platform::close_file_handle(created));
+  EXPECT_TRUE(kiln::platform::file_exists(path.c_str()));
+  EXPECT_EQ(open(OpenRule::kCreateNew), invalid_file_handle());  // exists already
+  void* reopened = open(OpenRule::kTruncateExisting);
+  ASSERT_NE(reopened, invalid_file_handle());
+  EXPECT_TRUE(kiln::platform::close_file_handle(reopened));
+}
+
 TEST(PlatformFiles, TemporaryFileIsMadeInTheFolderWithThePrefix) {
   kiln_test::TempFolder folder;
   std::string path;

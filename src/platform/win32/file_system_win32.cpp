@@ -73,4 +73,28 @@ int open_file_descriptor(const char* path, bool reads, bool writes, OpenRule rul
                 _O_BINARY | _O_NOINHERIT | access_and_creation_flags(reads, writes, rule), permissions);
 }
 
+namespace {
+
+DWORD creation_disposition(OpenRule rule) {
+  switch (rule) {
+    case OpenRule::kCreateNew: return CREATE_NEW;
+    case OpenRule::kCreateAlways: return CREATE_ALWAYS;
+    case OpenRule::kOpenExisting: return OPEN_EXISTING;
+    case OpenRule::kOpenAlways: return OPEN_ALWAYS;
+    case OpenRule::kTruncateExisting: return TRUNCATE_EXISTING;
+  }
+  return OPEN_EXISTING;
+}
+
+}  // namespace
+
+void* open_file_handle(const char* path, bool reads, bool writes, OpenRule rule, bool create_read_only) {
+  const DWORD access = (reads ? GENERIC_READ : 0u) | (writes ? GENERIC_WRITE : 0u);
+  const DWORD attributes = create_read_only ? FILE_ATTRIBUTE_READONLY : FILE_ATTRIBUTE_NORMAL;
+  return CreateFileW(wide_from_utf8(path).c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                     creation_disposition(rule), attributes, nullptr);
+}
+
+bool close_file_handle(void* handle) { return CloseHandle(handle) != 0; }
+
 }  // namespace kiln::platform
