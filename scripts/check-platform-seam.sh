@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
 # The platform seam: only src/platform/ may include POSIX or C-library
-# extension headers or use compiler builtins and extensions. Prints every
+# extension headers, use compiler builtins and extensions or test for Windows
+# (_WIN32: the Windows backend is chosen by CMake). Prints every
 # offending line and fails when there is one; every subsystem folder of src/,
 # present or future, is checked.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-pattern='#[[:space:]]*include[[:space:]]*<(unistd|fcntl|dlfcn|strings|pthread)\.h>|#[[:space:]]*include[[:space:]]*<sys/|__builtin_|__int128|__attribute__'
+pattern='#[[:space:]]*include[[:space:]]*<(unistd|fcntl|dlfcn|strings|pthread)\.h>|#[[:space:]]*include[[:space:]]*<sys/|__builtin_|__int128|__attribute__|_WIN32'
 if git grep -nE "$pattern" -- 'src/' ':!src/platform/'; then
   echo "platform seam: the lines above belong in src/platform/" >&2
   exit 1

@@ -4,7 +4,10 @@
 #define KILNUTIL_EXPORT_H
 
 #if defined(_WIN32)
-#  if defined(KILNUTIL_BUILDING)
+#  if defined(KILNUTIL_EXPORTED_BY_DEF_FILE)
+/* Exported under another name by the DLL's .def file. */
+#    define KILNUTIL_API
+#  elif defined(KILNUTIL_BUILDING)
 #    define KILNUTIL_API __declspec(dllexport)
 #  else
 #    define KILNUTIL_API __declspec(dllimport)
@@ -30,6 +33,13 @@ typedef char16_t KILN_WCHAR;
 #else
 #  include <uchar.h>
 typedef char16_t KILN_WCHAR;
+#endif
+
+/* A KILN_WCHAR string or character literal: KILN_TEXT("abc"). */
+#if defined(_WIN32)
+#  define KILN_TEXT(literal) L##literal
+#else
+#  define KILN_TEXT(literal) u##literal
 #endif
 
 #endif /* KILNUTIL_EXPORT_H */

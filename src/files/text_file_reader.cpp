@@ -1,5 +1,6 @@
 // Opening a text file as UTF-8 for the section readers.
 #include "files/text_file_reader.h"
+#include "platform/file_system.h"
 
 #include "unicode/text_file_utf8.h"
 
@@ -14,7 +15,7 @@ constexpr unsigned kUtf8MarkSize = 3;
 }  // namespace
 
 bool file_opens_for_reading(const char* path) {
-  FILE* stream = std::fopen(path, "rb");
+  FILE* stream = kiln::platform::open_stream(path, "rb");
   if (stream == nullptr) return false;
   std::fgetc(stream);  // a folder opens, but its first read fails
   const bool readable = std::ferror(stream) == 0;
@@ -24,7 +25,7 @@ bool file_opens_for_reading(const char* path) {
 
 Utf8TextFile::Utf8TextFile(const char* path, bool no_conversion) {
   if (std::strlen(path) >= sizeof context_.path) return;
-  FILE* raw = std::fopen(path, "rb");
+  FILE* raw = kiln::platform::open_stream(path, "rb");
   if (raw == nullptr) return;
   std::strcpy(context_.path, path);
   context_.binary_reopen = 1;

@@ -4,6 +4,7 @@
 #include "frame/settings.h"
 #include "locale/language_table.h"
 #include "locale/stored_language.h"
+#include "platform/user_settings.h"
 
 #include <atomic>
 
@@ -58,7 +59,9 @@ unsigned char user_language() {
 unsigned setup_thread_language() {
   const unsigned short wanted = identifier_of_index(resource_language());
   g_thread_language.store(wanted, kRelaxed);
-  return wanted;
+  // The platform's thread language follows, where it has one.
+  if (platform::thread_ui_language() == wanted) return wanted;
+  return platform::set_thread_ui_language(wanted);
 }
 
 unsigned short thread_language() { return g_thread_language.load(kRelaxed); }

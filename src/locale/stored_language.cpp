@@ -6,6 +6,7 @@
 #include "locale/language_table.h"
 #include "platform/file_bytes.h"
 #include "platform/file_replacement.h"
+#include "platform/user_settings.h"
 
 #include <cctype>
 #include <cstdlib>
@@ -72,6 +73,24 @@ bool language_value(const std::string& line, std::string_view& value) {
   return true;
 }
 
+// The index of a stored value's first character, upper-cased.
+unsigned char index_of_value(std::string_view value) {
+  if (value.empty()) return kNotDetermined;
+  const char first = value[0];
+  return index_of_letter(static_cast<unsigned char>(first >= 'a' && first <= 'z' ? first - 32 : first));
+}
+
+// The language of a Windows language identifier's primary language.
+unsigned char index_of_language_identifier(unsigned short identifier) {
+  switch (identifier & 0x3FF) {
+    case 0x07: return index_of_letter('G');
+    case 0x11: return index_of_letter('J');
+    case 0x04: return index_of_letter('C');
+    case 0x09: return index_of_letter('E');
+    default: return kUndetermined;
+  }
+}
+
 std::string read_settings() {
   const std::string path = settings_file_path();
   platform::FileBytes bytes;
@@ -131,6 +150,10 @@ std::string settings_file_path() {
 }
 
 unsigned char stored_language_index() {
+  if (platform::has_settings_store()) {
+    std::string value;
+    return platform::read_setting(std::string(kKey).c_str(), value) ? index_of_value(value) : kNotDetermined;
+  }
   bool in_section = false;
   for (const std::string& line : split_lines(read_settings())) {
     std::string name;
@@ -138,14 +161,14 @@ unsigned char stored_language_index() {
     if (header_name(line, name)) {
       in_section = equal_ignoring_case(name, kSection);
     } else if (in_section && language_value(line, value) && !value.empty()) {
-      const char first = value[0];
-      return index_of_letter(static_cast<unsigned char>(first >= 'a' && first <= 'z' ? first - 32 : first));
+      return index_of_value(value);
     }
   }
   return kNotDetermined;
 }
 
 bool store_language_letter(char letter) {
+  if (platform::has_settings_store()) return platform::write_setting(std::string(kKey).c_str(), std::string(1, letter));
   const std::string path = settings_file_path();
   if (path.empty()) return false;
   std::error_code error;
@@ -155,6 +178,9 @@ bool store_language_letter(char letter) {
 }
 
 unsigned char process_locale_language_index() {
+  if (const unsigned short identifier = platform::user_ui_language(); identifier != 0) {
+    return index_of_language_identifier(identifier);
+  }
   std::string name;
   for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
     name = environment(variable);

@@ -238,6 +238,8 @@ unsigned ansi_code_page() {
   return code_page_of_codeset(codeset != nullptr ? codeset : "");
 }
 
+bool ansi_code_page_follows_process_locale() { return true; }
+
 bool is_code_page_supported(unsigned code_page) { return converter_for(resolve_alias(code_page)) != nullptr; }
 
 bool is_lead_byte(unsigned code_page, unsigned char byte) {

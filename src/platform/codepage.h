@@ -19,6 +19,10 @@ inline constexpr unsigned kCodePageUtf8 = 65001;
 // Big5 950, anything else (the C locale included) 1252.
 unsigned ansi_code_page();
 
+// Whether the ANSI code page follows the process locale (setlocale) as above.
+// On Windows it is the system's setting, fixed for the process.
+bool ansi_code_page_follows_process_locale();
+
 // Every function here also takes the Windows aliases 0 (CP_ACP), 1 (CP_OEMCP),
 // 2 (CP_MACCP) and 3 (CP_THREAD_ACP).
 

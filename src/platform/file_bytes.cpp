@@ -15,7 +15,7 @@ long long stream_size(FILE* stream) {
 }
 
 ReadStatus read_whole_file(const char* path, FileBytes& bytes, size_t zero_bytes) {
-  FILE* stream = path != nullptr ? std::fopen(path, "rb") : nullptr;
+  FILE* stream = path != nullptr ? open_stream(path, "rb") : nullptr;
   if (stream == nullptr) return ReadStatus::kCantOpen;
   const long long size = stream_size(stream);
   ReadStatus status = ReadStatus::kOk;

@@ -104,13 +104,4 @@ ReplaceStatus FileReplacement::commit() {
   return ReplaceStatus::kDone;
 }
 
-ReplaceStatus replace_file(const char* path, std::initializer_list<ByteRange> contents) {
-  FileReplacement replacement(path);
-  if (!replacement.create()) return ReplaceStatus::kCantCreate;
-  for (const ByteRange& range : contents) {
-    if (!replacement.write(range.data, range.size)) break;
-  }
-  return replacement.commit();
-}
-
 }  // namespace kiln::platform

@@ -1,4 +1,5 @@
 #include "platform/file_system.h"
+#include "platform/open_flags.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -18,6 +19,8 @@ bool seek_stream(std::FILE* stream, long long offset) {
 }
 
 bool seek_stream_end(std::FILE* stream) { return fseeko(stream, 0, SEEK_END) == 0; }
+
+std::FILE* open_stream(const char* path, const char* mode) { return std::fopen(path, mode); }
 
 bool file_exists(const char* path) { return access(path, F_OK) == 0; }
 
@@ -48,25 +51,16 @@ std::FILE* create_temporary_file(const std::string& folder, const char* prefix, 
   return stream;
 }
 
-namespace {
-
-int creation_flags(OpenRule rule) {
-  switch (rule) {
-    case OpenRule::kCreateNew: return O_CREAT | O_EXCL;
-    case OpenRule::kCreateAlways: return O_CREAT | O_TRUNC;
-    case OpenRule::kOpenExisting: return 0;
-    case OpenRule::kOpenAlways: return O_CREAT;
-    case OpenRule::kTruncateExisting: return O_TRUNC;
-  }
-  return 0;
-}
-
-}  // namespace
-
 int open_file_descriptor(const char* path, bool reads, bool writes, OpenRule rule, bool create_read_only) {
-  const int access_flags = reads && writes ? O_RDWR : writes ? O_WRONLY : O_RDONLY;
   const mode_t permissions = create_read_only ? 0444 : 0666;
-  return open(path, O_CLOEXEC | access_flags | creation_flags(rule), permissions);
+  return open(path, O_CLOEXEC | access_and_creation_flags(reads, writes, rule), permissions);
 }
+
+void* open_file_handle(const char* path, bool reads, bool writes, OpenRule rule, bool create_read_only) {
+  const int descriptor = open_file_descriptor(path, reads, writes, rule, create_read_only);
+  return descriptor < 0 ? invalid_file_handle() : reinterpret_cast<void*>(static_cast<intptr_t>(descriptor));
+}
+
+bool close_file_handle(void* handle) { return close(static_cast<int>(reinterpret_cast<intptr_t>(handle))) == 0; }
 
 }  // namespace kiln::platform

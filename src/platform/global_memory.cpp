@@ -121,6 +121,8 @@ HGLOBAL global_alloc(unsigned flags, std::size_t bytes) {
   return (flags & GMEM_MOVEABLE) ? allocate_movable(bytes, flags) : allocate_fixed(bytes, flags);
 }
 
+bool global_memory_is_the_systems() { return false; }
+
 HGLOBAL global_free(HGLOBAL mem) {
   if (mem == nullptr) return nullptr;
   if (MovableRecord* record = movable_record(mem)) {

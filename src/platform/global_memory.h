@@ -32,4 +32,8 @@ bool global_unlock(HGLOBAL mem);
 // The block's size in bytes; 0 for a handle that is not a block.
 std::size_t global_size(HGLOBAL mem);
 
+// Whether the exported global-memory names are the operating system's own
+// (Windows) rather than the library's Windows-compatible ones (POSIX).
+bool global_memory_is_the_systems();
+
 }  // namespace kiln::platform

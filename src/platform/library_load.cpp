@@ -10,6 +10,8 @@ void* library_base_address() {
   return nullptr;
 }
 
+bool load_hook_runs_when_linked_statically() { return true; }
+
 }  // namespace kiln::platform
 
 // No unload work: nothing is reset or freed when the library goes away.

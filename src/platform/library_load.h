@@ -12,4 +12,8 @@ bool on_process_attach();
 // The base address of the loaded library: its module handle.
 void* library_base_address();
 
+// Whether the load hook also runs in a program that links the library's
+// objects statically: a library constructor does, a DLL entry point does not.
+bool load_hook_runs_when_linked_statically();
+
 }  // namespace kiln::platform

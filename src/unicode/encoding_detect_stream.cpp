@@ -56,7 +56,7 @@ unsigned detect_stream_encoding(FILE* stream, unsigned max_bytes, int flags) {
 
 unsigned detect_file_encoding(const char* path, unsigned max_bytes, int flags) {
   if (path == nullptr) return kEncodingNone;
-  FILE* stream = std::fopen(path, "rb");
+  FILE* stream = platform::open_stream(path, "rb");
   if (stream == nullptr) return kEncodingNone;
   const unsigned code = detect_stream_encoding(stream, max_bytes, flags);
   std::fclose(stream);

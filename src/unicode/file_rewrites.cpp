@@ -1,4 +1,5 @@
 #include "unicode/file_rewrites.h"
+#include "platform/file_system.h"
 
 #include "unicode/char_stream.h"
 #include "unicode/code_page_text.h"
@@ -134,7 +135,7 @@ int convert_streaming(FILE* stream, const char* path, unsigned code_page, long l
 }  // namespace
 
 int convert_utf8_file_to_code_page(const char* path, int code_page, long long streaming_size) {
-  FILE* stream = path != nullptr ? std::fopen(path, "rb") : nullptr;
+  FILE* stream = path != nullptr ? kiln::platform::open_stream(path, "rb") : nullptr;
   if (stream == nullptr) return kRewriteCantOpen;
   const long long size = stream_size(stream);
   int result;

@@ -66,7 +66,7 @@ int make_file_utf16(const std::string& path) {
   }
   const unsigned family = encoding_family(detect_file_encoding(path.c_str(), 0, kDetectMarkOnly));
   if (family == kEncodingUtf16Le) return 0;
-  FILE* stream = std::fopen(path.c_str(), "rb");
+  FILE* stream = kiln::platform::open_stream(path.c_str(), "rb");
   if (stream == nullptr) return 0;
   const long long size = platform::stream_size(stream);
   std::fclose(stream);

@@ -4,6 +4,7 @@
 // otherwise asks the detector's two UTF-16 heuristics whether the bytes are
 // UTF-16 little-endian.
 #include "unicode/code_page_text.h"
+#include "platform/file_system.h"
 #include "unicode/encoding_detect.h"
 #include "platform/file_bytes.h"
 
@@ -55,10 +56,10 @@ bool write_as_ansi(const FileBytes& file, FILE* destination) {
 int KILNUTIL_ConvertUNICODEtoMBCS(const char* src_path, const char* dst_path) {
   using namespace kiln::unicode;
   if (src_path == nullptr || dst_path == nullptr) return 0;
-  FILE* probe = std::fopen(src_path, "rb");
+  FILE* probe = kiln::platform::open_stream(src_path, "rb");
   if (probe == nullptr) return 0;
   std::fclose(probe);
-  FILE* destination = std::fopen(dst_path, "wb");
+  FILE* destination = kiln::platform::open_stream(dst_path, "wb");
   if (destination == nullptr) return 0;
   FileBytes file;
   int result = 0;

@@ -73,7 +73,7 @@ FILE* open_utf8_path(const char* path, const char* mode) {
     errno = ENOENT;
     return nullptr;
   }
-  return std::fopen(path, stdio_mode(mode).c_str());
+  return kiln::platform::open_stream(path, stdio_mode(mode).c_str());
 }
 
 HANDLE create_utf8_path(const char* path, unsigned access, unsigned disposition, unsigned flags_and_attributes) {
@@ -86,9 +86,7 @@ HANDLE create_utf8_path(const char* path, unsigned access, unsigned disposition,
   const bool reads = (access & (kGenericRead | kGenericAll)) != 0;
   const bool writes = (access & (kGenericWrite | kGenericAll)) != 0;
   const bool read_only = (flags_and_attributes & kAttributeReadOnly) != 0;
-  const int descriptor = platform::open_file_descriptor(path, reads, writes, rule, read_only);
-  if (descriptor < 0) return INVALID_HANDLE_VALUE;
-  return reinterpret_cast<HANDLE>(static_cast<intptr_t>(descriptor));
+  return kiln::platform::open_file_handle(path, reads, writes, rule, read_only);
 }
 
 int test_utf8_path_access(const char* path, int mode) {

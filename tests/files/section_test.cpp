@@ -1,3 +1,4 @@
+#include "unicode/iconv_reference.h"
 #include "unicode/test_files.h"
 
 #include <kilnutil/files.h>

@@ -122,8 +122,8 @@ TEST(RetiredEntryPoints, DoNothingAndAnswerNoCharacter) {
 TEST(CharacterHelpers, NarrowTextIsUtf8) {
   const char text[] = "a\xC3\xA9\xE6\x97\xA5\xF0\x9F\x98\x80";  // a, e-acute, a CJK ideograph, an emoji
   const char* p = text;
-  EXPECT_EQ(KILNUTILT::GetTwo(p), u'a');
-  EXPECT_EQ(KILNUTILT::GetTwoAdv(p), u'a');
+  EXPECT_EQ(KILNUTILT::GetTwo(p), KILN_TEXT('a'));
+  EXPECT_EQ(KILNUTILT::GetTwoAdv(p), KILN_TEXT('a'));
   EXPECT_EQ(KILNUTILT::GetTwoAdv(p), 0x00E9);
   EXPECT_EQ(p, text + 3);
   EXPECT_EQ(KILNUTILT::GetTwoAdv(p), 0x65E5);
@@ -139,9 +139,9 @@ TEST(CharacterHelpers, NarrowTextIsUtf8) {
 }
 
 TEST(CharacterHelpers, WideTextIsOneUnitAtATime) {
-  const KILN_WCHAR text[] = u"A\U0001F600";
+  const KILN_WCHAR text[] = KILN_TEXT("A\U0001F600");
   const KILN_WCHAR* p = text;
-  EXPECT_EQ(KILNUTILT::GetTwoAdv(p), u'A');
+  EXPECT_EQ(KILNUTILT::GetTwoAdv(p), KILN_TEXT('A'));
   EXPECT_EQ(KILNUTILT::GetTwoAdv(p), 0xD83D);  // surrogates are not combined
   EXPECT_EQ(KILNUTILT::GetTwo(p), 0xDE00);
   EXPECT_EQ(KILNUTILT::GoBack(p), text + 1);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <numbers>
 #include <limits>
 #include <map>
 #include <string>
@@ -124,10 +125,10 @@ TEST(MathElementary, DomainRulesAndWhichOnesSetTheCode) {
       {"sech", 1000, 0, 0, 0},
       {"acot", kMissing, 0, kMissing, 0},
       {"secant", kMissing, 0, kMissing, 0},
-      {"angle", 1, -1, 7 * M_PI / 4, 0},
-      {"angle", -1, 0, M_PI, 0},
+      {"angle", 1, -1, 7 * std::numbers::pi / 4, 0},
+      {"angle", -1, 0, std::numbers::pi, 0},
       {"angle", 0, -2, 4.71238898038469, 0},
-      {"angle", 0, 3, M_PI / 2, 0},
+      {"angle", 0, 3, std::numbers::pi / 2, 0},
   };
   for (const DomainCase& c : cases) {
     m::clear_error_code();

@@ -1,6 +1,7 @@
 // Remainders, tolerant comparison and the guarded power, division and log10.
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <cmath>
 #include <limits>
 
@@ -107,6 +108,12 @@ struct PowerCase {
 };
 
 TEST(MathGuardedArithmetic, PowerDomainAndLimits) {
+  // Whether an underflow to zero is a range error is the C runtime's choice:
+  // glibc reports it, the Windows runtime does not (the result is then 0).
+  errno = 0;
+  volatile double tiny_base = 2;
+  static_cast<void>(std::pow(tiny_base, -1100.0));
+  const double underflow_result = errno == ERANGE ? kMissing : 0.0;
   const PowerCase cases[] = {
       {0, 0, kMissing},
       {0, -1, kMissing},
@@ -118,7 +125,7 @@ TEST(MathGuardedArithmetic, PowerDomainAndLimits) {
       {2, 0.5, std::sqrt(2.0)},
       {kMissing, 1, kMissing},
       {2, kMissing, kMissing},
-      {2, -1100, kMissing},                // underflow: range error
+      {2, -1100, underflow_result},
       {-2, 2.0000000000000004, kMissing},  // whole within the is_equal tolerance, refused by the runtime
   };
   for (const PowerCase& c : cases) {

@@ -4,6 +4,8 @@
 #include <kilnutil/text.h>
 #include <kilnutil/unicode.h>
 
+#include "platform/case_mapping.h"
+
 #include <gtest/gtest.h>
 
 #include <initializer_list>
@@ -12,14 +14,14 @@
 
 namespace {
 
-std::u16string wide(const std::string& utf8) {
-  char16_t buf[128] = {};
+std::basic_string<KILN_WCHAR> wide(const std::string& utf8) {
+  KILN_WCHAR buf[128] = {};
   KILNUTIL_UNICODE_UTF8_to_UTF16_buffers_ex(buf, 127, utf8.c_str(), -1);
   return buf;
 }
 
 std::string narrow(const char* s) { return s; }
-std::string narrow(const char16_t* w) {
+std::string narrow(const KILN_WCHAR* w) {
   char buf[256] = {};
   KILNUTIL_UNICODE_UTF16_to_UTF8_buffers(buf, sizeof buf, w);
   return buf;
@@ -32,7 +34,7 @@ int index_of(const char* begin, const char* p) {
   for (const char* q = begin; q < p; q = KILNUTIL_UNICODE_UTF8_adv_str(q)) ++n;
   return n;
 }
-int index_of(const char16_t* begin, const char16_t* p) { return p == nullptr ? -1 : static_cast<int>(p - begin); }
+int index_of(const KILN_WCHAR* begin, const KILN_WCHAR* p) { return p == nullptr ? -1 : static_cast<int>(p - begin); }
 
 template <class Ch>
 using Text = std::basic_string<Ch>;
@@ -92,7 +94,7 @@ TEST(TokenTemplates, NarrowAndWideAgree) {
                           "b c\td"};
   for (const char* sample : corpus) {
     const std::string text = sample;
-    const std::vector<std::string> a = results<char>(text), b = results<char16_t>(wide(text));
+    const std::vector<std::string> a = results<char>(text), b = results<KILN_WCHAR>(wide(text));
     ASSERT_EQ(a.size(), b.size()) << text;
     for (std::size_t i = 0; i < a.size(); ++i) EXPECT_EQ(a[i], b[i]) << text << " result " << i;
   }
@@ -103,10 +105,10 @@ TEST(TokenTemplates, NarrowAndWideAgree) {
 TEST(TokenTemplates, FlatNarrowAndWideExportsAgree) {
   for (const char* sample : {"  a, b ;c  ", "x\ty\n1\t2\t3\n", "(a,b),\"c,d\",e", "\xC3\xA9,b\n", ""}) {
     const Text<char> a = sample;
-    const Text<char16_t> w = wide(a);
+    const Text<KILN_WCHAR> w = wide(a);
     {
       Text<char> ca = a, ta = a;
-      Text<char16_t> cw = w, tw = w;
+      Text<KILN_WCHAR> cw = w, tw = w;
       EXPECT_EQ(narrow(KILNUTIL_TrimRightA(ca.data())), narrow(KILNUTIL_TrimRightW(cw.data()))) << sample;
       EXPECT_EQ(narrow(KILNUTILT_TrimRight(ta.data())), narrow(KILNUTILT_TrimRight(tw.data()))) << sample;
       EXPECT_EQ(narrow(KILNUTIL_TrimBothA(ca.data())), narrow(KILNUTIL_TrimBothW(cw.data()))) << sample;
@@ -123,7 +125,7 @@ TEST(TokenTemplates, FlatNarrowAndWideExportsAgree) {
           << sample << " " << target;
     }
     Text<char> ta = a;
-    Text<char16_t> tw = w;
+    Text<KILN_WCHAR> tw = w;
     EXPECT_EQ(KILNUTIL_FirstLineTokensA(ta.data(), ','), KILNUTIL_FirstLineTokensW(tw.data(), ',')) << sample;
     EXPECT_EQ(KILNUTIL_TestWordsInLineA(a.c_str(), 3), KILNUTIL_TestWordsInLineW(w.c_str(), 3)) << sample;
     EXPECT_EQ(KILNUTILT::StrLen(a.c_str()), static_cast<int>(a.size())) << sample;  // units, not characters
@@ -175,7 +177,7 @@ TEST(TokenTemplates, SeparatorDetection) {
   EXPECT_EQ(separator("a,b\n1,2\n3,4\n", 3), ',');
   EXPECT_EQ(separator("a,b\n1,2\n3,4\n", 0), ',');  // 0 lines checks 3
   EXPECT_EQ(separator("just words\nmore words\n", 3), -1);
-  std::u16string wide_semis = u"a;b\nc;d\ne;f\n";
+  std::basic_string<KILN_WCHAR> wide_semis = KILN_TEXT("a;b\nc;d\ne;f\n");
   EXPECT_EQ(KILNUTILT_FindSeparator(wide_semis.data(), 0, 3), ';');
 }
 
@@ -186,17 +188,17 @@ TEST(TokenTemplates, TokenListExports) {
   EXPECT_EQ(KILNUTIL_SeparateStrToTokensA(quoted.data(), nullptr, ',', -1), 3);
   EXPECT_EQ(KILNUTIL_SeparateStrToTokensA(quoted.data(), nullptr, ',', 10), 1);  // the quote hides the commas
   EXPECT_EQ(KILNUTIL_SeparateStrToTokensA(nullptr, nullptr, ',', -1), 0);
-  std::u16string letters = u"a,b,c,d";
+  std::basic_string<KILN_WCHAR> letters = KILN_TEXT("a,b,c,d");
   KILN_WCHAR* two[3] = {};
   EXPECT_EQ(KILNUTIL_SeparateStrToTokensW(letters.data(), two, 0, 2), 2);
-  EXPECT_EQ(std::u16string(two[1]), u"b");
+  EXPECT_EQ(std::basic_string<KILN_WCHAR>(two[1]), KILN_TEXT("b"));
   EXPECT_EQ(two[2], nullptr);
 }
 
 TEST(TokenTemplates, LinesAndFields) {
   for (const char* one : {"", "a"}) EXPECT_EQ(KILNUTIL_LineCountA(one), 1) << one;
   for (const char* two : {"a\nb", "a\nb\n", "a\n\n"}) EXPECT_EQ(KILNUTIL_LineCountA(two), 2) << two;
-  EXPECT_EQ(KILNUTIL_LineCountW(u"a\nb\n"), 2);
+  EXPECT_EQ(KILNUTIL_LineCountW(KILN_TEXT("a\nb\n")), 2);
   EXPECT_EQ(KILNUTILT_WordsInLine(""), 1);
   EXPECT_EQ(KILNUTILT_WordsInLine("a,b\tc\nd\te\tf"), 2);
   EXPECT_EQ(KILNUTIL_TestWordsInLineA("a\nb\tc\nd\te\tf\tg", 2), 2);
@@ -219,10 +221,10 @@ TEST(TokenTemplates, NextToken) {
   EXPECT_EQ(next_token("xyz", 8), "xyz@3");       // the NUL
   EXPECT_EQ(next_token("abcdef,g", 4), "abc@3");  // dest full
   EXPECT_EQ(next_token("a\xC3\xA9,", 3), "a@1");  // no half characters
-  const char16_t* wtext = u"ab;cd";
-  char16_t wdest[8];
-  EXPECT_EQ(KILNUTIL_NextTokenW(wdest, wtext, u",;", 8), wtext + 3);
-  EXPECT_EQ(std::u16string(wdest), u"ab");
+  const KILN_WCHAR* wtext = KILN_TEXT("ab;cd");
+  KILN_WCHAR wdest[8];
+  EXPECT_EQ(KILNUTIL_NextTokenW(wdest, wtext, KILN_TEXT(",;"), 8), wtext + 3);
+  EXPECT_EQ(std::basic_string<KILN_WCHAR>(wdest), KILN_TEXT("ab"));
 }
 
 TEST(TokenTemplates, TrimmingAndExposedSearch) {
@@ -230,8 +232,8 @@ TEST(TokenTemplates, TrimmingAndExposedSearch) {
   EXPECT_STREQ(KILNUTIL_TrimBothA(text), "a b");
   char continuation[] = "\x80  ";  // starts with a stray continuation byte
   EXPECT_STREQ(KILNUTIL_TrimRightA(continuation), "\x80");
-  char16_t wtext[] = u"  x ";
-  EXPECT_EQ(std::u16string(KILNUTIL_TrimLeftW(wtext)), u"x ");
+  KILN_WCHAR wtext[] = KILN_TEXT("  x ");
+  EXPECT_EQ(std::basic_string<KILN_WCHAR>(KILNUTIL_TrimLeftW(wtext)), KILN_TEXT("x "));
   EXPECT_EQ(KILNUTIL_TrimLeftA(nullptr), nullptr);
 
   const char* angle = "<a,b>,c";
@@ -246,18 +248,18 @@ TEST(TokenTemplates, HelperMembers) {
   EXPECT_STREQ(KILNUTILT::GetLastChar("ab\xC3\xA9"), "\xC3\xA9");
   EXPECT_EQ(KILNUTILT::GetLastChar(""), nullptr);
   EXPECT_EQ(KILNUTILT::GetLastChar(static_cast<const char*>(nullptr)), nullptr);
-  const char16_t* w = u"xy";
+  const KILN_WCHAR* w = KILN_TEXT("xy");
   EXPECT_EQ(KILNUTILT::GetLastChar(w), w + 1);
   char upper[] = "abc\xC3\xA9";
   EXPECT_STREQ(KILNUTILT::CharUpper_(upper), "ABC\xC3\x89");
-  char16_t wupper[] = u"ab\u00e9";
-  EXPECT_EQ(std::u16string(KILNUTILT::CharUpper_(wupper)), u"AB\u00c9");
+  KILN_WCHAR wupper[] = KILN_TEXT("ab\u00e9");
+  EXPECT_EQ(std::basic_string<KILN_WCHAR>(KILNUTILT::CharUpper_(wupper)), KILN_TEXT("AB\u00c9"));
   char copy[4];
   KILNUTILT::StrCpyN(copy, "abcdef", 4);
   EXPECT_STREQ(copy, "abc");
-  char16_t wcopy[3];
-  KILNUTILT::StrCpyN(wcopy, u"xyz", 3);
-  EXPECT_EQ(std::u16string(wcopy), u"xy");
+  KILN_WCHAR wcopy[3];
+  KILNUTILT::StrCpyN(wcopy, KILN_TEXT("xyz"), 3);
+  EXPECT_EQ(std::basic_string<KILN_WCHAR>(wcopy), KILN_TEXT("xy"));
 }
 
 }  // namespace
@@ -266,6 +268,11 @@ TEST(TokenTemplates, HelperMembers) {
 // (the upper case, or the lower case when upper-casing leaves c as it is), so
 // the title-case U+01C5 finds U+01C4 but not U+01C6, in both searches.
 TEST(TokenTemplates, StrCharOtherCaseOfNonAsciiLetters) {
+  // The system's case tables decide; Wine's leave U+01C5 without an upper
+  // case, so the row that needs one is checked only where it has one.
+  KILN_WCHAR title_case[] = {0x1C5};
+  kiln::platform::upper_case_units(title_case, 1);
+  const bool title_case_has_upper = title_case[0] == 0x1C4;
   const unsigned previous = set_code_page_for_string_process(65001);
   const struct {
     const char* text;
@@ -276,6 +283,7 @@ TEST(TokenTemplates, StrCharOtherCaseOfNonAsciiLetters) {
       {"a\xC7\x86", 0x1C4, 1}, {"\xC3\xA9", 0xC9, 0},    {"\xC3\x89", 0xE9, 0},    {"a\xC7\x85", 0x1C5, 1},
   };
   for (const auto& c : cases) {
+    if (c.c == 0x1C5 && c.found == 1 && c.text[2] == '\x84' && !title_case_has_upper) continue;
     for (const int mode : {0x20, 0x21, 0x23}) {
       const char* hit = KILNUTIL_strchr(c.text, c.c, static_cast<unsigned>(mode));
       EXPECT_EQ(hit == nullptr ? -1 : hit - c.text, c.found) << c.text << " " << c.c << " " << mode;

@@ -1,6 +1,6 @@
 # Runs the kilnutil tool once and checks its exit code and output.
 # -DTOOL=path -DARGC=n -DARG0=... -DARG<n-1>=... -DRC=code -DSTDOUT_REGEX=re
-# -DSTDERR_REGEX=re -DSTDIN=file
+# -DSTDERR_REGEX=re -DSTDIN=file [-DEMULATOR=program that runs a cross-built tool]
 set(args "")
 if(ARGC GREATER 0)
   math(EXPR last "${ARGC} - 1")
@@ -12,8 +12,14 @@ set(input_args "")
 if(STDIN)
   set(input_args INPUT_FILE "${STDIN}")
 endif()
-execute_process(COMMAND "${TOOL}" ${args} ${input_args}
+execute_process(COMMAND ${EMULATOR} "${TOOL}" ${args} ${input_args}
   RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
+# A Windows program writes its standard streams in text mode, each line end
+# as CR LF: read them back as the program wrote them.
+if(EMULATOR)
+  string(REPLACE "\r\n" "\n" out "${out}")
+  string(REPLACE "\r\n" "\n" err "${err}")
+endif()
 message("exit code: ${rc}\n--- stdout\n${out}--- stderr\n${err}---")
 if(NOT rc STREQUAL RC)
   message(FATAL_ERROR "expected exit code ${RC}, got ${rc}")

@@ -1,3 +1,4 @@
+#include "iconv_reference.h"
 #include "test_files.h"
 
 #include "platform/file_replacement.h"

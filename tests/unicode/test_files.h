@@ -1,27 +1,27 @@
-// Files for the encoding tests: a private folder removed afterwards, whole
-// file reads and writes, and glibc's iconv as the independent converter the
-// library's results are compared with.
+// Files for the encoding tests: a private folder removed afterwards and whole
+// file reads and writes.
 #pragma once
 
 #include <gtest/gtest.h>
 
-#include <iconv.h>
-
-#include <cerrno>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <optional>
+#include <random>
 #include <string>
 
 namespace kiln_test {
 
 class TempFolder {
 public:
+  // A new folder of a random name in the system's temporary folder.
   TempFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "kiln-enc-XXXXXX").string();
-    if (mkdtemp(pattern.data()) != nullptr) path_ = pattern;
+    std::random_device random;
+    for (int attempt = 0; attempt < 100 && path_.empty(); ++attempt) {
+      const auto candidate = std::filesystem::temp_directory_path() / ("kiln-enc-" + std::to_string(random()));
+      std::error_code error;
+      if (std::filesystem::create_directory(candidate, error)) path_ = candidate;
+    }
   }
   ~TempFolder() {
     std::error_code ignored;
@@ -49,22 +49,6 @@ inline void write_file(const std::string& path, const std::string& bytes) {
 inline std::string read_file(const std::string& path) {
   std::ifstream in(path, std::ios::binary);
   return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-}
-
-// `bytes` converted by glibc's iconv, or nothing when iconv refuses them.
-inline std::optional<std::string> iconv_convert(const char* from, const char* to, const std::string& bytes) {
-  iconv_t converter = iconv_open(to, from);
-  if (converter == reinterpret_cast<iconv_t>(-1)) return std::nullopt;
-  std::string output(bytes.size() * 4 + 16, '\0');
-  char* in = const_cast<char*>(bytes.data());
-  size_t in_left = bytes.size();
-  char* out = output.data();
-  size_t out_left = output.size();
-  const size_t result = iconv(converter, &in, &in_left, &out, &out_left);
-  iconv_close(converter);
-  if (result == static_cast<size_t>(-1)) return std::nullopt;
-  output.resize(output.size() - out_left);
-  return output;
 }
 
 }  // namespace kiln_test

@@ -1,3 +1,4 @@
+#include "iconv_reference.h"
 #include "test_files.h"
 #include "unicode/utf16_stream_to_utf8.h"
 

@@ -56,7 +56,7 @@ TEST(Utf16, EncodedLengthAndTheUnitInFront) {
 }
 
 TEST(Utf16, UnpairedSurrogateStepsBackOneUnit) {
-  const KILN_WCHAR text[] = {u'x', 0xD83D, u'A', 0};
+  const KILN_WCHAR text[] = {KILN_TEXT('x'), 0xD83D, KILN_TEXT('A'), 0};
   unsigned cp = 0;
   EXPECT_EQ(KILNUTIL_UNICODE_UTF16_adv_str(text + 1, &cp), text);
   EXPECT_EQ(cp, 0xD83Du);

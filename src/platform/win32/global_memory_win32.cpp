@@ -1,0 +1,13 @@
+// The library's global memory is the system's: a host frees what the library
+// returns with its own GlobalFree.
+#include "platform/global_memory.h"
+
+namespace kiln::platform {
+
+HGLOBAL global_alloc(unsigned flags, std::size_t bytes) { return GlobalAlloc(flags, bytes); }
+
+HGLOBAL global_free(HGLOBAL mem) { return GlobalFree(mem); }
+
+bool global_memory_is_the_systems() { return true; }
+
+}  // namespace kiln::platform
