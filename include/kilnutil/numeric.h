@@ -97,6 +97,8 @@ KILNUTIL_API int KILNUTIL_is_str_has_exponent(const char* text);
  * number of digits; otherwise at most 8; mode -1 also moves leading zeros of
  * the run into the prefix (keeping one digit); mode n >= 1: prefix holds n
  * bytes. Without trailing digits: 0, the whole text as prefix. */
+#define KILNUTIL_END_NUMBER_ANY_LENGTH (-2)
+#define KILNUTIL_END_NUMBER_ZEROS_TO_PREFIX (-1)
 KILNUTIL_API int KILNUTIL_End_Number_ex(char* prefix, char* text, char** number_start, int mode);
 /* KILNUTIL_End_Number_ex(prefix, text, null, skip_zeros ? -1 : 0). */
 KILNUTIL_API int string_to_prefix_end_number(char* prefix, char* text, bool skip_zeros);

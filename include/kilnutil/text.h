@@ -80,6 +80,9 @@ KILNUTIL_API char* KILNUTIL_exposed_2_char_pos(const char* text, int c1, int c2)
 /* The first exposed, stand-alone occurrence of word, case-blind. flags:
  * 0x1000 skip comments and spaces first; 0x2000 need not stand alone;
  * 0x4000 match case. */
+#define KILNUTIL_WORD_SKIP_COMMENTS 0x1000u
+#define KILNUTIL_WORD_ANYWHERE 0x2000u
+#define KILNUTIL_WORD_MATCH_CASE 0x4000u
 KILNUTIL_API char* KILNUTIL_exposed_word_pos(const char* text, const char* word, unsigned int flags);
 
 /* ---- Brackets. */

@@ -12,7 +12,7 @@ namespace kiln::numeric {
 
 namespace {
 
-constexpr int kAnyLength = -2;
+constexpr int kAnyLength = KILNUTIL_END_NUMBER_ANY_LENGTH;
 constexpr std::size_t kMaxRunDigits = 8;
 
 // The runtime's atoi on a run of digits, saturating like the Windows runtime.

@@ -2,10 +2,12 @@
 // 12), as the host numbers books, sheets and columns.
 #pragma once
 
+#include <kilnutil/numeric.h>
+
 namespace kiln::numeric {
 
 // Mode of split_trailing_number: the leading zeros of the number are skipped.
-inline constexpr int kTrailingNumberSkipZeros = -1;
+inline constexpr int kTrailingNumberSkipZeros = KILNUTIL_END_NUMBER_ZEROS_TO_PREFIX;
 
 // Whether the first "E", "e" or "D" is followed by a sign and a digit.
 bool has_signed_exponent(const char* text);

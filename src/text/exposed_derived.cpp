@@ -11,9 +11,9 @@ namespace kiln::text {
 
 namespace {
 
-constexpr unsigned kWordSkipComments = 0x1000;
-constexpr unsigned kWordAnywhere = 0x2000;
-constexpr unsigned kWordMatchCase = 0x4000;
+constexpr unsigned kWordSkipComments = KILNUTIL_WORD_SKIP_COMMENTS;
+constexpr unsigned kWordAnywhere = KILNUTIL_WORD_ANYWHERE;
+constexpr unsigned kWordMatchCase = KILNUTIL_WORD_MATCH_CASE;
 
 // The rest of word (after its first character) at p; the position behind it
 // in *after.

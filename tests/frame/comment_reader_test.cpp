@@ -192,9 +192,9 @@ TEST(CommentText, LeadingCommentsTable) {
 TEST(CommentText, WordSearchSkipsLeadingComments) {
   const char* text = "/* x */ x = 1";
   EXPECT_EQ(KILNUTIL_exposed_word_pos(text, "x", 0) - text, 3);
-  EXPECT_EQ(KILNUTIL_exposed_word_pos(text, "x", 0x1000) - text, 8);
+  EXPECT_EQ(KILNUTIL_exposed_word_pos(text, "x", KILNUTIL_WORD_SKIP_COMMENTS) - text, 8);
   const char* line = "// y\ny = 2";
-  EXPECT_EQ(KILNUTIL_exposed_word_pos(line, "y", 0x1000) - line, 5);
+  EXPECT_EQ(KILNUTIL_exposed_word_pos(line, "y", KILNUTIL_WORD_SKIP_COMMENTS) - line, 5);
 }
 
 }  // namespace

@@ -156,10 +156,10 @@ TEST(ExposedDerived, FromEndPairAndWord) {
   // Words stand alone and match in either case unless 0x4000; 0x2000 drops the stand-alone test.
   const char words[] = "x=Sin(sin)+sinh+ sin";
   EXPECT_EQ(offset(words, KILNUTIL_exposed_word_pos(words, "sin", 0)), 2);
-  EXPECT_EQ(offset(words, KILNUTIL_exposed_word_pos(words, "sin", 0x4000)), 17);
+  EXPECT_EQ(offset(words, KILNUTIL_exposed_word_pos(words, "sin", KILNUTIL_WORD_MATCH_CASE)), 17);
   const char inside[] = "asin+sin";
   EXPECT_EQ(offset(inside, KILNUTIL_exposed_word_pos(inside, "sin", 0)), 5);
-  EXPECT_EQ(offset(inside, KILNUTIL_exposed_word_pos(inside, "sin", 0x2000)), 1);
+  EXPECT_EQ(offset(inside, KILNUTIL_exposed_word_pos(inside, "sin", KILNUTIL_WORD_ANYWHERE)), 1);
   EXPECT_EQ(KILNUTIL_exposed_word_pos("\"sin\" sin2", "sin", 0), nullptr);
   EXPECT_EQ(KILNUTIL_exposed_word_pos("sin", "", 0), nullptr);
 }
