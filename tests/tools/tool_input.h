@@ -1,7 +1,7 @@
 // Test helpers: bytes as the tool's input, read through its decoder.
 #pragma once
 
-#include "io.h"
+#include "file_io.h"
 #include "text_decoder.h"
 
 #include <cstdio>

@@ -3,7 +3,7 @@
 // a few MiB, in the output form of the common command-line tools.
 #include "base64_stream.h"
 #include "commands.h"
-#include "io.h"
+#include "file_io.h"
 #include "progress.h"
 
 #include <charconv>

@@ -2,7 +2,7 @@
 // file as the library's detection sees its leading bytes (code, name, mark
 // size), and what the tool reads it as after checking the whole file.
 #include "commands.h"
-#include "io.h"
+#include "file_io.h"
 #include "json.h"
 #include "text_decoder.h"
 #include "text_options.h"

@@ -5,7 +5,7 @@
 // significant digits (or the missing-value text) with its line number.
 #include "commands.h"
 #include "csv_records.h"
-#include "io.h"
+#include "file_io.h"
 #include "preview_cell.h"
 #include "separator_guess.h"
 #include "text_decoder.h"

@@ -4,7 +4,7 @@
 // stops the conversion with the position of the first invalid byte, as
 // converters do, unless --replace asks for U+FFFD.
 #include "commands.h"
-#include "io.h"
+#include "file_io.h"
 #include "progress.h"
 #include "text_decoder.h"
 #include "text_options.h"

@@ -6,7 +6,7 @@
 #pragma once
 
 #include "cli.h"
-#include "io.h"
+#include "file_io.h"
 #include "text_decoder.h"
 
 #include <cstdint>

@@ -7,7 +7,7 @@
 #pragma once
 
 #include "encoding_names.h"
-#include "io.h"
+#include "file_io.h"
 
 #include <cstdint>
 #include <optional>

@@ -8,6 +8,14 @@ HGLOBAL global_alloc(unsigned flags, std::size_t bytes) { return GlobalAlloc(fla
 
 HGLOBAL global_free(HGLOBAL mem) { return GlobalFree(mem); }
 
+HGLOBAL global_realloc(HGLOBAL mem, std::size_t bytes, unsigned flags) { return GlobalReAlloc(mem, bytes, flags); }
+
+void* global_lock(HGLOBAL mem) { return GlobalLock(mem); }
+
+bool global_unlock(HGLOBAL mem) { return GlobalUnlock(mem) != 0; }
+
+std::size_t global_size(HGLOBAL mem) { return GlobalSize(mem); }
+
 bool global_memory_is_the_systems() { return true; }
 
 }  // namespace kiln::platform

@@ -1,5 +1,5 @@
 // Chunked reading and writing with the system's reason on failure.
-#include "io.h"
+#include "file_io.h"
 
 #include "cli.h"
 

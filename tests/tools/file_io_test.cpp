@@ -1,6 +1,6 @@
 // Inputs and outputs named on the command line: the system's reason for
 // every failure, offsets and seeking, and the adopted copy of a pipe.
-#include "io.h"
+#include "file_io.h"
 
 #include <gtest/gtest.h>
 
