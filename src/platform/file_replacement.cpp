@@ -1,4 +1,5 @@
 #include "platform/file_replacement.h"
+#include "platform/write_all.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -64,17 +65,14 @@ bool FileReplacement::create() {
 }
 
 bool FileReplacement::write(const void* data, size_t size) {
-  const auto* bytes = static_cast<const char*>(data);
-  while (size > 0 && !write_failed_) {
-    const ssize_t written = ::write(descriptor_, bytes, size);
-    if (written < 0 && errno == EINTR) continue;
-    if (written <= 0) {
-      write_failed_ = true;
-      break;
-    }
-    bytes += written;
-    size -= static_cast<size_t>(written);
-  }
+  if (write_failed_) return false;
+  write_failed_ = !write_all(static_cast<const char*>(data), size, [this](const char* bytes, size_t count) {
+    ssize_t written;
+    do {
+      written = ::write(descriptor_, bytes, count);
+    } while (written < 0 && errno == EINTR);
+    return static_cast<long long>(written);
+  });
   return !write_failed_;
 }
 

@@ -4,6 +4,7 @@
 // volume serial number and file index.
 #include "platform/file_replacement.h"
 #include "platform/win32/wide_text.h"
+#include "platform/write_all.h"
 
 #include <windows.h>
 
@@ -72,17 +73,11 @@ bool FileReplacement::create() {
 }
 
 bool FileReplacement::write(const void* data, size_t size) {
-  const auto* bytes = static_cast<const char*>(data);
-  while (size > 0 && !write_failed_) {
-    const unsigned chunk = size > 0x40000000u ? 0x40000000u : static_cast<unsigned>(size);
-    const int written = _write(descriptor_, bytes, chunk);
-    if (written <= 0) {
-      write_failed_ = true;
-      break;
-    }
-    bytes += written;
-    size -= static_cast<size_t>(written);
-  }
+  if (write_failed_) return false;
+  write_failed_ = !write_all(static_cast<const char*>(data), size, [this](const char* bytes, size_t count) {
+    const unsigned chunk = count > 0x40000000u ? 0x40000000u : static_cast<unsigned>(count);
+    return static_cast<long long>(_write(descriptor_, bytes, chunk));
+  });
   return !write_failed_;
 }
 
@@ -97,9 +92,8 @@ ReplaceStatus FileReplacement::commit() {
   }
   const std::wstring wide_path = win32::wide_from_utf8(path_.c_str());
   const FileIdentity now = identity_of(wide_path);
-  const bool unchanged = original_existed_
-                             ? now.exists && now.volume == original_device_ && now.index == original_inode_
-                             : !now.exists;
+  const bool unchanged =
+      original_existed_ ? now.exists && now.volume == original_device_ && now.index == original_inode_ : !now.exists;
   if (!unchanged) {
     discard();
     return ReplaceStatus::kVanished;
