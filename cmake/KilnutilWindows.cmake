@@ -10,7 +10,8 @@ include(${CMAKE_CURRENT_LIST_DIR}/KilnutilRuntimeNames.cmake)
 # The POSIX backend's files (src/platform/<name>.cpp) that src/platform/win32/
 # replaces; the shared files (bits, cpu_features, file_bytes) serve both.
 set(KILNUTIL_POSIX_BACKEND_FILES
-  case_mapping clock codepage file_replacement file_system global_memory library_load runtime_math shared_library
+  case_mapping clock codepage file_replacement file_system global_memory host_system library_load runtime_math
+  shared_library
   user_settings)
 
 function(kilnutil_select_windows_backend sources_var)
