@@ -22,7 +22,7 @@ find_program(python3_for_base64 python3)
 if(coreutils_base64 AND python3_for_base64)
   add_test(NAME cli.base64_differential
     COMMAND ${python3_for_base64} ${CMAKE_CURRENT_SOURCE_DIR}/tools/base64_differential.py
-      $<TARGET_FILE:kilnutil_cli> ${coreutils_base64})
+      ${coreutils_base64} ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:kilnutil_cli>)
   set_tests_properties(cli.base64_differential PROPERTIES LABELS cli)
 endif()
 kilnutil_cli_test(NAME base64_decode_stdin ARGS base64 --decode STDIN ${PROJECT_SOURCE_DIR}/tests/data/encodings/foobar.b64

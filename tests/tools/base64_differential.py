@@ -2,12 +2,13 @@
 """Differential check of `kilnutil base64` against coreutils `base64`: random
 inputs of random sizes (group boundaries, the tool's piece size), encoded with
 the default, narrow and no wrapping and decoded back; outputs must be
-byte-identical. Usage: base64_differential.py KILNUTIL COREUTILS_BASE64"""
+byte-identical. Usage: base64_differential.py COREUTILS_BASE64 [EMULATOR] KILNUTIL
+(EMULATOR runs a cross-built tool, such as wine for kilnutil.exe)."""
 import random
 import subprocess
 import sys
 
-tool, reference = sys.argv[1], sys.argv[2]
+reference, tool = sys.argv[1], sys.argv[2:]
 rng = random.Random(20261123)
 PIECE = 3 << 20  # the tool's read size: inputs around it cross a piece boundary
 sizes = [0, 1, 2, 3, 4, 56, 57, 58, 76, 1000, PIECE - 1, PIECE, PIECE + 1, PIECE + 2]
@@ -16,7 +17,8 @@ failures = 0
 
 
 def run(program, args, data):
-    return subprocess.run([program, *args], input=data, capture_output=True)
+    command = program if isinstance(program, list) else [program]
+    return subprocess.run([*command, *args], input=data, capture_output=True)
 
 
 for case, size in enumerate(sizes):

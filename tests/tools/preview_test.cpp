@@ -34,6 +34,7 @@ PreviewResult preview(const std::string& bytes, PreviewOptions options) {
   std::streambuf* saved = std::cerr.rdbuf(silenced.rdbuf());
   const int rc = kilnutil_cli::preview_input(*input, options, &output);
   std::cerr.rdbuf(saved);
+  output.finish();  // closed before it is read back and removed
   std::stringstream text;
   text << std::ifstream(path, std::ios::binary).rdbuf();
   std::filesystem::remove(path);

@@ -14,10 +14,9 @@ if(STDIN)
 endif()
 execute_process(COMMAND ${EMULATOR} "${TOOL}" ${args} ${input_args}
   RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
-# A Windows program writes its standard streams in text mode, each line end
-# as CR LF: read them back as the program wrote them.
+# On Windows the tool's standard output is binary, as on POSIX, but its
+# standard error is in text mode: each line end there is CR LF.
 if(EMULATOR)
-  string(REPLACE "\r\n" "\n" out "${out}")
   string(REPLACE "\r\n" "\n" err "${err}")
 endif()
 message("exit code: ${rc}\n--- stdout\n${out}--- stderr\n${err}---")

@@ -25,6 +25,13 @@ bool InputFile::open(const std::string& name) {
   if (name == "-") {
     stream_ = stdin;
   } else {
+    // A folder is refused by name: POSIX opens one and fails the first read,
+    // Windows refuses to open it with a plain "Permission denied".
+    std::error_code ignored;
+    if (std::filesystem::is_directory(name, ignored)) {
+      error_ = system_reason(EISDIR);
+      return false;
+    }
     errno = 0;
     stream_ = std::fopen(name.c_str(), "rb");
     if (stream_ == nullptr) {

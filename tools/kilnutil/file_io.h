@@ -17,6 +17,9 @@ public:
 
   // Opens a file, or standard input for "-"; false with error() set.
   bool open(const std::string& name);
+  // Closes a file the object opened (standard input stays open); the
+  // destructor does it too.
+  void close();
   const std::string& name() const { return name_; }
 
   // Reads up to size bytes; 0 at the end or on a read error (see failed()).
@@ -39,8 +42,6 @@ public:
   void adopt(std::FILE* stream, std::uint64_t offset);
 
 private:
-  void close();
-
   std::string name_;
   std::string error_;
   std::FILE* stream_ = nullptr;

@@ -1,6 +1,7 @@
 // kilnutil: command-line access to the library's subsystems.
 #include "commands.h"
 #include "help_texts.h"
+#include "standard_streams.h"
 
 #include <clocale>
 #include <cstdio>
@@ -148,6 +149,7 @@ int main(int argc, char** argv) {
   // Numbers stay in the C form ("." as decimal point) in every output.
   std::setlocale(LC_ALL, "");
   std::setlocale(LC_NUMERIC, "C");
+  use_binary_standard_streams();
   if (argc < 2) return usage_error("no command given (see 'kilnutil help')");
   const std::string_view name = argv[1];
   const Command* command = find_command(name);

@@ -72,8 +72,36 @@ bool code_page_to_utf8(char* begin, std::size_t length, unsigned code_page, std:
   return written > 0;
 }
 
+// What a code page's converter writes for bytes the page does not define:
+// U+FFFD from the POSIX build's converters; the page's own default character
+// from Windows' (U+30FB KATAKANA MIDDLE DOT in 932, "?" in the other
+// double-byte pages).
+constexpr std::string_view kKatakanaMiddleDot = "\xE3\x83\xBB";
+
+std::size_t count_of(std::string_view text, char c) {
+  return static_cast<std::size_t>(std::count(text.begin(), text.end(), c));
+}
+
+// Whether `converted`, the conversion of the non-ASCII `bytes`, is a
+// converter's stand-in rather than the character the bytes encode.
+bool is_substitute(std::string_view converted, std::string_view bytes, unsigned code_page) {
+  if (converted.find(kReplacementCharacter) != std::string_view::npos || converted == "?") return true;
+  if (converted != kKatakanaMiddleDot) return false;
+  char own[8] = {};
+  const int length = KILNUTIL_UNICODE_UTF8_to_MBCS(kKatakanaMiddleDot.data(), static_cast<int>(kKatakanaMiddleDot.size()),
+                                                   own, static_cast<int>(sizeof own), static_cast<int>(code_page));
+  return bytes != std::string_view(own, static_cast<std::size_t>(length > 0 ? length : 0));
+}
+
+// Whether the conversion of `bytes` may hold a stand-in for an undefined
+// character (then the bytes are checked one character at a time).
+bool may_hold_substitutes(std::string_view converted, std::string_view bytes) {
+  return converted.find(kReplacementCharacter) != std::string_view::npos ||
+         converted.find(kKatakanaMiddleDot) != std::string_view::npos || count_of(converted, '?') > count_of(bytes, '?');
+}
+
 // The offset of the first byte (or two-byte character) that the code page
-// does not define: the library replaces those by U+FFFD.
+// does not define.
 std::size_t first_undefined_byte(std::string_view text, unsigned code_page) {
   std::string piece, converted;
   for (std::size_t at = 0; at < text.size();) {
@@ -86,7 +114,7 @@ std::size_t first_undefined_byte(std::string_view text, unsigned code_page) {
       piece.assign(text.substr(at, take));
       converted.clear();
       if (code_page_to_utf8(piece.data(), piece.size(), code_page, converted) &&
-          converted.find(kReplacementCharacter) == std::string::npos) {
+          !is_substitute(converted, piece, code_page)) {
         at += take;
         break;
       }
@@ -330,7 +358,7 @@ bool TextDecoder::decode_code_page(std::string& out) {
     if (stop < end) out += '\0';
     at = stop + 1;
   }
-  if (!options_.replace && out.find(kReplacementCharacter, old) != std::string::npos) {
+  if (!options_.replace && may_hold_substitutes(std::string_view(out).substr(old), std::string_view(pending_).substr(0, end))) {
     const std::size_t bad = first_undefined_byte(std::string_view(pending_).substr(0, end), code_page_);
     if (bad < end) {
       out.resize(old);
