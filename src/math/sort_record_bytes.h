@@ -13,11 +13,11 @@ namespace kiln::math {
 inline constexpr std::size_t kSortStackRecord = 208;
 
 inline char* record_at(void* base, long long i, std::size_t size) {
-  return static_cast<char*>(base) + static_cast<std::ptrdiff_t>(i) * static_cast<std::ptrdiff_t>(size);
+  return static_cast<char*>(base) + i * static_cast<long long>(size);
 }
 
 inline const char* record_at(const void* base, long long i, std::size_t size) {
-  return static_cast<const char*>(base) + static_cast<std::ptrdiff_t>(i) * static_cast<std::ptrdiff_t>(size);
+  return static_cast<const char*>(base) + i * static_cast<long long>(size);
 }
 
 // (lo + hi) / 2, truncated toward zero, without overflowing.

@@ -77,8 +77,9 @@ int read_utf8_char(void* stream, unsigned flags) {
 void unread_utf8_char(unsigned c, void* stream, unsigned flags) {
   if (stream == nullptr) return;
   if (is_wide_stream(flags)) {
-    const std::wint_t wide = c;
-    std::ungetwc(wide, static_cast<FILE*>(stream));
+    // wint_t is 32 bits wide on POSIX and 16 on Windows, where a wide stream
+    // takes back one UTF-16 unit: the cast is the narrowing only there.
+    std::ungetwc(static_cast<std::wint_t>(static_cast<unsigned long>(c)), static_cast<FILE*>(stream));
     return;
   }
   char bytes[4];

@@ -10,7 +10,7 @@ using namespace text_test;
 
 namespace {
 
-long find(const char* text, int target, unsigned flags = 0, int loc = 0, int* status = nullptr,
+std::ptrdiff_t find(const char* text, int target, unsigned flags = 0, int loc = 0, int* status = nullptr,
           const char* end = nullptr) {
   return offset(text, KILNUTIL_exposed_char_pos_ex_loc_ex(text, target, flags, status, loc, end));
 }
@@ -25,7 +25,7 @@ TEST(ExposedSearch, Cases) {
     int target;
     unsigned flags;
     int loc;
-    long expected;
+    std::ptrdiff_t expected;
   } cases[] = {
       // Quotes and brackets hide the target, one bracket kind at a time; brackets inside quotes are
       // text, and a quote inside brackets is skipped whole.

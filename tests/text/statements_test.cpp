@@ -16,9 +16,9 @@ namespace {
 // scan position and the bytes of the text afterwards.
 struct Call {
   std::string first;
-  long first_at, next;
+  std::ptrdiff_t first_at, next;
   int status;
-  long scan;
+  std::ptrdiff_t scan;
   std::string bytes;
   bool operator==(const Call&) const = default;
 };
@@ -75,7 +75,7 @@ namespace {
 struct Term {
   std::string term;
   int op;
-  long end, next;
+  std::ptrdiff_t end, next;
   bool operator==(const Term&) const = default;
 };
 

@@ -6,7 +6,7 @@ using namespace text_test;
 
 namespace {
 
-long find(const char* text, int c, unsigned mode) { return offset(text, KILNUTIL_strchr(text, c, mode)); }
+std::ptrdiff_t find(const char* text, int c, unsigned mode) { return offset(text, KILNUTIL_strchr(text, c, mode)); }
 
 }  // namespace
 
@@ -16,7 +16,7 @@ TEST(StrChr, ModesInBothWalks) {
     const char* text;
     int c;
     unsigned mode;
-    long expected;
+    std::ptrdiff_t expected;
   } cases[] = {
       // Exposed mode: one pair kind at a time ("[" is ordinary inside braces), same-kind nesting, no
       // escapes (the quote inside "(" is ordinary), single quotes and angle brackets not special, a
