@@ -57,7 +57,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   check(mark == 0 || mark == 2 || mark == 3 || mark == 4);
 
   if (size > 0) {
-    FILE* stream = fmemopen(bytes.get(), size, "rb");
+    FILE* stream = fuzz_support::stream_over(bytes.get(), size);
     if (stream != nullptr) {
       check(KILNUTIL_DetectEncoding(stream, 0, 0) == code);
       std::fclose(stream);

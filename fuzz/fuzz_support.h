@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 #include <string>
 
@@ -16,6 +17,19 @@ inline void check(bool condition) {
 // The input as a NUL-terminated text (bytes after an embedded NUL included).
 inline std::string as_text(const std::uint8_t* data, std::size_t size) {
   return std::string(reinterpret_cast<const char*>(data), size);
+}
+
+// A stream that reads the input's bytes from the start: a temporary file,
+// because standard C has no stream over memory. Null when none can be made.
+inline std::FILE* stream_over(const void* data, std::size_t size) {
+  std::FILE* stream = std::tmpfile();
+  if (stream == nullptr) return nullptr;
+  if (std::fwrite(data, 1, size, stream) != size) {
+    std::fclose(stream);
+    return nullptr;
+  }
+  std::rewind(stream);
+  return stream;
 }
 
 }  // namespace fuzz_support

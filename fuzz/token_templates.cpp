@@ -66,7 +66,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
   // The same bytes as UTF-16 units.
   const std::size_t units = (size - 1) / 2;
-  std::unique_ptr<char16_t[]> wide(new char16_t[units + 1]);
+  std::unique_ptr<KILN_WCHAR[]> wide(new KILN_WCHAR[units + 1]);
   std::memcpy(wide.get(), data + 1, units * 2);
   wide[units] = 0;
   std::size_t wide_length = 0;
@@ -74,7 +74,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   exercise(wide.get(), wide_length, sep);
 
   // ASCII text reads the same in both widths.
-  std::u16string widened;
+  std::basic_string<KILN_WCHAR> widened;
   for (std::size_t i = 0; i < narrow_length && static_cast<unsigned char>(narrow[i]) < 0x80; ++i) widened += narrow[i];
   const std::string ascii(narrow.get(), widened.size());
   check(KILNUTIL_LineCountA(ascii.c_str()) == KILNUTIL_LineCountW(widened.c_str()));

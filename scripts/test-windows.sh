@@ -17,5 +17,13 @@ cleanup() {
 trap cleanup EXIT INT TERM
 cleanup
 
+# Configure and build first, then make the prefix once and wait for it: the
+# first program of a fresh prefix otherwise races Wine's own set-up.
+cmake --preset windows
+cmake --build --preset windows
+mkdir -p "$(dirname "$prefix")"
+WINEPREFIX="$prefix" WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml=" "$wine" wineboot --init >/dev/null 2>&1 || true
+WINEPREFIX="$prefix" "$wineserver" -w
+
 # The test preset runs every program with WINEPREFIX set to $prefix.
 cmake --workflow --preset windows
