@@ -1,6 +1,7 @@
 // Inputs and outputs named on the command line: the system's reason for
 // every failure, offsets and seeking, and the adopted copy of a pipe.
 #include "file_io.h"
+#include "tool_input.h"
 
 #include <gtest/gtest.h>
 
@@ -33,7 +34,7 @@ TEST(ToolIo, FailuresCarryTheSystemsReason) {
 }
 
 TEST(ToolIo, OffsetsSizesAndSeeking) {
-  const fs::path path = fs::temp_directory_path() / "kilnutil_tool_io_test.bin";
+  const fs::path path = kilnutil_cli_test::temporary_path("kilnutil_tool_io_test");
   std::ofstream(path, std::ios::binary) << "0123456789";
   kilnutil_cli::InputFile input;
   ASSERT_TRUE(input.open(path.string()));

@@ -23,10 +23,7 @@ struct PreviewResult {
 };
 
 PreviewResult preview(const std::string& bytes, PreviewOptions options) {
-  // One file a test: ctest runs the tests of this file in parallel processes.
-  const std::string test = ::testing::UnitTest::GetInstance()->current_test_info()->name();
-  const std::filesystem::path path =
-      std::filesystem::temp_directory_path() / ("kilnutil_tool_preview_" + test + ".out");
+  const std::filesystem::path path = kilnutil_cli_test::temporary_path("kilnutil_tool_preview");
   auto input = kilnutil_cli_test::piped(bytes);
   kilnutil_cli::OutputFile output;
   EXPECT_TRUE(output.open(path.string()));

@@ -160,7 +160,7 @@ TEST(ToolTextDecoder, KeepsCharactersWholeAcrossPieces) {
 
 // A regular file is checked by reading ahead and seeking back, not copied.
 TEST(ToolTextDecoder, ChecksRegularFilesBySeekingBack) {
-  const std::filesystem::path path = std::filesystem::temp_directory_path() / "kilnutil_tool_decoder_test.csv";
+  const std::filesystem::path path = kilnutil_cli_test::temporary_path("kilnutil_tool_decoder_test");
   const std::string prefix = ascii(70000);
   std::ofstream(path, std::ios::binary) << prefix << "K\xC3\xB6ln\n" << prefix;
   kilnutil_cli::InputFile input;
@@ -177,7 +177,7 @@ TEST(ToolTextDecoder, ChecksRegularFilesBySeekingBack) {
 // After checking ahead, a regular file is read on from where the check
 // started: the code-page text after the ASCII prefix converts whole.
 TEST(ToolTextDecoder, ReadsOnAfterTheCheckFailed) {
-  const std::filesystem::path path = std::filesystem::temp_directory_path() / "kilnutil_tool_decoder_back.csv";
+  const std::filesystem::path path = kilnutil_cli_test::temporary_path("kilnutil_tool_decoder_back");
   const std::string prefix = ascii(70000);
   std::string tail;
   for (int i = 0; i < 200000; ++i)

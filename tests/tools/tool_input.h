@@ -5,12 +5,20 @@
 #include "text_decoder.h"
 
 #include <cstdio>
+#include <filesystem>
 #include <memory>
+#include <random>
 #include <string>
 
 namespace kilnutil_cli_test {
 
 // The bytes as an input that can't seek back, as a pipe is.
+// A fresh path in the temporary folder: test programs of several builds may
+// run at once, so each name carries a random part.
+inline std::filesystem::path temporary_path(const std::string& stem) {
+  return std::filesystem::temp_directory_path() / (stem + "_" + std::to_string(std::random_device{}()));
+}
+
 inline std::unique_ptr<kilnutil_cli::InputFile> piped(const std::string& bytes) {
   auto input = std::make_unique<kilnutil_cli::InputFile>();
   std::FILE* stream = std::tmpfile();
