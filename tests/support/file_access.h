@@ -6,6 +6,7 @@
 #include <kilnutil/unicode.h>
 
 #include <filesystem>
+#include <fstream>
 #include <string_view>
 
 namespace kiln_test {
@@ -16,10 +17,18 @@ bool write_to_handle(HANDLE handle, std::string_view bytes);
 // Closes such a handle (close, CloseHandle).
 bool close_handle(HANDLE handle);
 
-// Makes a folder refuse new files; false where this process can't be refused
-// that way: on POSIX the superuser passes permission bits, and on Windows a
-// folder's read-only attribute does not stop new files (only an access list
-// would, which the Windows emulator the tests run under does not enforce).
+// Whether a new file can be made in `folder` (one is made and removed).
+inline bool folder_takes_new_files(const std::filesystem::path& folder) {
+  const std::filesystem::path probe = folder / "probe";
+  if (!std::ofstream(probe).is_open()) return false;
+  std::filesystem::remove(probe);
+  return true;
+}
+
+// Makes a folder refuse new files: no write permission on POSIX, an access
+// list entry denying new files and folders on Windows. False, with the
+// folder left writable, where a new file can still be made: the superuser
+// passes permission bits, and Wine does not enforce access lists.
 bool make_folder_read_only(const std::filesystem::path& folder);
 void make_folder_writable(const std::filesystem::path& folder);
 

@@ -1,4 +1,4 @@
-// File descriptors and permission bits.
+// File descriptors; folders made read-only by their permission bits.
 #include "support/file_access.h"
 
 #include <unistd.h>
@@ -24,11 +24,12 @@ bool write_to_handle(HANDLE handle, std::string_view bytes) {
 bool close_handle(HANDLE handle) { return close(descriptor_of(handle)) == 0; }
 
 bool make_folder_read_only(const std::filesystem::path& folder) {
-  if (geteuid() == 0) return false;
   using std::filesystem::perms;
-  std::filesystem::permissions(folder, perms::owner_read | perms::owner_exec | perms::group_read | perms::group_exec |
-                                           perms::others_read | perms::others_exec);
-  return true;
+  std::filesystem::permissions(folder, perms::owner_write | perms::group_write | perms::others_write,
+                               std::filesystem::perm_options::remove);
+  if (!folder_takes_new_files(folder)) return true;
+  make_folder_writable(folder);
+  return false;
 }
 
 void make_folder_writable(const std::filesystem::path& folder) {
