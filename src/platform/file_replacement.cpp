@@ -102,4 +102,6 @@ ReplaceStatus FileReplacement::commit() {
   return ReplaceStatus::kDone;
 }
 
+bool temporary_name_extends_original() { return true; }
+
 }  // namespace kiln::platform

@@ -54,4 +54,10 @@ private:
 // create(), write() of each range, commit().
 ReplaceStatus replace_file(const char* path, std::initializer_list<ByteRange> contents);
 
+// Whether the temporary file's name is the original's with a suffix, so that
+// an original named near the system's limit leaves no room for it (POSIX);
+// the Windows backend's temporary names come from GetTempFileNameW and are
+// short.
+bool temporary_name_extends_original();
+
 }  // namespace kiln::platform

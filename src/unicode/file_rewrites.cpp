@@ -109,13 +109,15 @@ private:
   size_t capacity_ = 0;
 };
 
+constexpr int kConverted = 1;
+
 // Character-at-a-time conversion of a large file: each character read as
 // UTF-8 goes to the code page as one UTF-16 unit (its low 16 bits: characters
-// above U+FFFF are not paired into surrogates).
-int convert_streaming(FILE* stream, const char* path, unsigned code_page, long long size) {
+// above U+FFFF are not paired into surrogates). kConverted with the text in
+// `output`, else the rewrite's result.
+int convert_streaming(FILE* stream, unsigned code_page, long long size, GrowingBytes& output) {
   unsigned char mark[3];
   if (std::fread(mark, 1, 3, stream) != 3 || !has_utf8_mark(mark, 3)) return kRewriteNoMark;
-  GrowingBytes output;
   if (!output.grow(static_cast<size_t>(size - 3) + 1)) return kRewriteNoMemoryForText;
   for (;;) {
     const int character = read_utf8_char(stream, 0);
@@ -129,7 +131,7 @@ int convert_streaming(FILE* stream, const char* path, unsigned code_page, long l
     if (!output.append(bytes, static_cast<size_t>(count))) return kRewriteNoMemoryForText;
   }
   if (std::ferror(stream)) return kRewriteShortRead;
-  return conversion_rewrite_code(replace_file(path, {{output.data(), output.size()}}));
+  return kConverted;
 }
 
 }  // namespace
@@ -144,7 +146,12 @@ int convert_utf8_file_to_code_page(const char* path, int code_page, long long st
   } else if (size == 0) {
     result = kRewriteEmptyFile;
   } else if (size >= streaming_size) {
-    result = convert_streaming(stream, path, resolve_code_page(code_page), size);
+    GrowingBytes output;
+    result = convert_streaming(stream, resolve_code_page(code_page), size, output);
+    // Closed before the replacement: Windows replaces no file that is open.
+    std::fclose(stream);
+    if (result != kConverted) return result;
+    return conversion_rewrite_code(replace_file(path, {{output.data(), output.size()}}));
   } else {
     std::fclose(stream);
     return convert_in_memory(path, resolve_code_page(code_page));

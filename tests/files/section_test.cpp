@@ -1,4 +1,4 @@
-#include "unicode/iconv_reference.h"
+#include "support/utf16_bytes.h"
 #include "unicode/test_files.h"
 
 #include <kilnutil/files.h>
@@ -113,7 +113,7 @@ struct EncodedCase {
 
 std::string utf16(const std::string& utf8, bool big_endian) {
   const std::string mark = big_endian ? "\xFE\xFF" : "\xFF\xFE";
-  return mark + kiln_test::iconv_convert("UTF-8", big_endian ? "UTF-16BE" : "UTF-16LE", utf8).value_or("");
+  return mark + (big_endian ? kiln_test::utf16be(utf8) : kiln_test::utf16le(utf8));
 }
 
 TEST_F(SectionFile, NamedSectionsInEveryEncoding) {
@@ -168,7 +168,8 @@ TEST_F(SectionFile, StatusLineIndexAndEmptySections) {
   EXPECT_EQ(KILNUTIL_GetFileSectionEx(missing.c_str(), "A", &status, &line, 0), nullptr);
   EXPECT_EQ(status, static_cast<unsigned>(KILNUTIL_SECTION_CANT_OPEN));
   EXPECT_EQ(line, KILNUTIL_SECTION_NO_LINE);
-  EXPECT_EQ(KILNUTIL_GetFileSectionEx(folder_.path().c_str(), "A", &status, nullptr, 0), nullptr);
+  EXPECT_EQ(KILNUTIL_GetFileSectionEx(kiln_test::utf8_string(folder_.path()).c_str(), "A", &status, nullptr, 0),
+            nullptr);
   EXPECT_EQ(status, static_cast<unsigned>(KILNUTIL_SECTION_CANT_OPEN));
 
   // A NUL byte ends the copied text of its line.

@@ -1,91 +1,71 @@
+// The library's own language logic, the same on every platform: what a
+// stored choice means, the languages it sets, storing a new choice. Where the
+// choice is kept and the platform's language when none is stored are checked
+// per platform (language_settings_file_test.cpp on POSIX,
+// language_registry_test.cpp on Windows).
 #include "locale/language_state.h"
-#include "unicode/test_files.h"
+#include "support/language_store.h"
 
 #include <kilnutil/frame.h>
 #include <kilnutil/locale.h>
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <string>
+#include <utility>
 
 namespace {
 
-using kiln_test::TempFolder;
-
-// Points the configuration folder at a private temporary folder and sets the
-// locale variables; everything is put back afterwards, so the user's own
-// settings are never read or written.
+// The user's stored choice emptied (and put back afterwards), the string
+// process code page unset.
 class Language : public ::testing::Test {
 protected:
   void SetUp() override {
-    for (const char* name : kVariables) {
-      const char* value = std::getenv(name);
-      saved_.emplace_back(name, value != nullptr ? std::optional<std::string>(value) : std::nullopt);
-      unsetenv(name);
-    }
-    setenv("KILNUTIL_CONFIG_DIR", (folder_.path() / "config").c_str(), 1);
     saved_code_page_ = set_code_page_for_string_process(0xFFFFFFFFu);
     kiln::locale::forget_languages();
   }
   void TearDown() override {
-    for (const auto& [name, value] : saved_) {
-      if (value) setenv(name, value->c_str(), 1);
-      else unsetenv(name);
-    }
     kiln::locale::forget_languages();
     set_code_page_for_string_process(saved_code_page_);
   }
-  std::string settings_path() const { return (folder_.path() / "config" / "settings.ini").string(); }
-  void store(const std::string& text) {
-    std::filesystem::create_directories(folder_.path() / "config");
-    kiln_test::write_file(settings_path(), text);
+  // The resource language determined afresh and the code page it set.
+  std::pair<unsigned, unsigned> determined() {
+    kiln::locale::forget_languages();
+    const unsigned index = KILNUTIL_ResourceLanguageIndex(0, 1);
+    const unsigned code_page = set_code_page_for_string_process(0xFFFFFFFFu);
+    EXPECT_EQ(KILNUTIL_UserLanguageIndex(), index);
+    return {index, code_page};
   }
 
-  static constexpr const char* kVariables[] = {"KILNUTIL_CONFIG_DIR", "XDG_CONFIG_HOME", "LC_ALL", "LC_MESSAGES",
-                                               "LANG"};
-  TempFolder folder_;
-  std::vector<std::pair<const char*, std::optional<std::string>>> saved_;
+  kiln_test::LanguageStore store_;
   unsigned saved_code_page_ = 0;
 };
 
-struct DeterminationCase {
-  const char* settings;  // null: no file
-  const char* lang;      // LANG, null: unset
-  unsigned index;
-  unsigned code_page;
-};
-
-TEST_F(Language, DeterminationTable) {
-  const DeterminationCase cases[] = {
-      {nullptr, "ja_JP.UTF-8", 3, 932},
-      {nullptr, "de_DE", 2, 1252},
-      {nullptr, "zh_CN.GB18030", 4, 936},
-      {nullptr, "en_US.UTF-8", 1, 0xFFFFFFFF},
-      {nullptr, "C", 0, 0xFFFFFFFF},
-      {nullptr, "fr_FR", 0, 0xFFFFFFFF},
-      {nullptr, nullptr, 0, 0xFFFFFFFF},
-      {"[General]\nLanguage=G\n", "ja_JP", 2, 1252},  // the stored choice comes first
-      {"[General]\r\nlanguage = japanese\r\n", nullptr, 3, 932},
-      {"[Other]\nLanguage=G\n", "zh_CN", 4, 936},  // only the [General] section counts
-      {"[General]\nLanguage=X\n", "de", 2, 1252},  // an unknown letter falls back
+// A stored choice is read by its first letter, in either case; a value that
+// names no language leaves the decision to the platform, as no value does.
+TEST_F(Language, StoredChoice) {
+  const auto platform_choice = determined();
+  struct Case {
+    const char* value;
+    unsigned index, code_page;
   };
-  for (const DeterminationCase& c : cases) {
-    SCOPED_TRACE(std::string(c.settings ? c.settings : "-") + " / " + (c.lang ? c.lang : "-"));
-    std::filesystem::remove(settings_path());
-    if (c.settings != nullptr) store(c.settings);
-    if (c.lang != nullptr) setenv("LANG", c.lang, 1);
-    else unsetenv("LANG");
-    kiln::locale::forget_languages();
-    EXPECT_EQ(KILNUTIL_ResourceLanguageIndex(0, 1), c.index);
-    EXPECT_EQ(set_code_page_for_string_process(0xFFFFFFFFu), c.code_page);
-    EXPECT_EQ(KILNUTIL_UserLanguageIndex(), c.index);
+  const Case cases[] = {
+      {"G", 2, 1252},
+      {"japanese", 3, 932},
+      {"c", 4, 936},
+      {"English", 1, 0xFFFFFFFF},
+      {"X", platform_choice.first, platform_choice.second},
+      {"", platform_choice.first, platform_choice.second},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.value);
+    store_.store(c.value);
+    EXPECT_EQ(determined(), std::make_pair(c.index, c.code_page));
   }
 }
 
-TEST_F(Language, JapaneseFromTheLocale) {
-  setenv("LC_MESSAGES", "ja_JP.UTF-8", 1);
-  setenv("LANG", "de_DE", 1);  // LC_MESSAGES comes before LANG
+TEST_F(Language, JapaneseStored) {
+  store_.store("J");
   EXPECT_EQ(KILNUTIL_language_charset(), KILNUTIL_CHARSET_SHIFTJIS);
   EXPECT_STREQ(KILNUTIL_language_str(), "Japanese");
   EXPECT_STREQ(KILNUTIL_language_character(KILNUTIL_LANGUAGE_CURRENT, 0), "J");
@@ -106,28 +86,24 @@ TEST_F(Language, JapaneseFromTheLocale) {
 }
 
 TEST_F(Language, StoringTheChoice) {
-  setenv("LANG", "de_DE", 1);
+  const unsigned platform_index = KILNUTIL_ResourceLanguageIndex(0, 1);
   char current[2] = {'?', '?'}, stored[2] = {'?', '?'};
-  EXPECT_EQ(KILNUTIL_SetResourceLang("Japanese", current, stored), 1);
-  EXPECT_STREQ(current, "G");
+  EXPECT_EQ(KILNUTIL_SetResourceLang("Japanese", nullptr, stored), 1);
   EXPECT_EQ(stored[0], '?');  // nothing was stored yet
-  EXPECT_EQ(kiln_test::read_file(settings_path()), "[General]\nLanguage=J\n");
-  EXPECT_EQ(KILNUTIL_ResourceLanguageIndex(0, 1), KILNUTIL_LANGUAGE_GERMAN);  // the process keeps its language
+  EXPECT_EQ(store_.stored(), "J");
+  EXPECT_EQ(KILNUTIL_ResourceLanguageIndex(0, 1), platform_index);  // the process keeps its language
 
-  EXPECT_EQ(KILNUTIL_SetResourceLang("x", nullptr, stored), 1);
+  KILNUTIL_ResourceLanguageIndex(KILNUTIL_LANGUAGE_GERMAN, 0);
+  EXPECT_EQ(KILNUTIL_SetResourceLang("x", current, stored), 1);
+  EXPECT_STREQ(current, "G");
   EXPECT_STREQ(stored, "J");
   EXPECT_EQ(KILNUTIL_SetResourceLang("german", nullptr, nullptr), 1);  // letters compare exactly
   EXPECT_EQ(KILNUTIL_SetResourceLang("", nullptr, nullptr), 0);
   EXPECT_EQ(KILNUTIL_SetResourceLang(nullptr, nullptr, nullptr), 0);
-  EXPECT_EQ(kiln_test::read_file(settings_path()), "[General]\nLanguage=J\n");
+  EXPECT_EQ(store_.stored(), "J");
 
-  // Other settings are kept; the key is replaced in place or added.
-  store("# mine\n[Window]\nx=1\n[General]\nTheme=dark\nLanguage=E\n");
-  EXPECT_EQ(KILNUTIL_SetResourceLang("C", nullptr, nullptr), 1);
-  EXPECT_EQ(kiln_test::read_file(settings_path()), "# mine\n[Window]\nx=1\n[General]\nTheme=dark\nLanguage=C\n");
-  store("[General]\nTheme=dark\n[Window]\n");
   EXPECT_EQ(KILNUTIL_SetResourceLang("G", nullptr, nullptr), 1);
-  EXPECT_EQ(kiln_test::read_file(settings_path()), "[General]\nLanguage=G\nTheme=dark\n[Window]\n");
+  EXPECT_EQ(store_.stored(), "G");
   kiln::locale::forget_languages();
   EXPECT_EQ(KILNUTIL_UserLanguageIndex(), KILNUTIL_LANGUAGE_GERMAN);
 }

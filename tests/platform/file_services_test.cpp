@@ -5,6 +5,7 @@
 #include "platform/file_replacement.h"
 #include "platform/file_system.h"
 #include "platform/user_settings.h"
+#include "support/language_store.h"
 #include "unicode/test_files.h"
 
 #include <gtest/gtest.h>
@@ -77,14 +78,12 @@ TEST(PlatformFiles, TemporaryFileIsMadeInTheFolderWithThePrefix) {
 
 TEST(PlatformSettings, StoredValuesComeBackWhereThePlatformKeepsThem) {
   if (!kiln::platform::has_settings_store()) GTEST_SKIP() << "no settings store: the library keeps its own file";
-  std::string saved;
-  const bool had_value = kiln::platform::read_setting("Language", saved);
+  const kiln_test::LanguageStore store;  // the user's value (or none) put back afterwards
   ASSERT_TRUE(kiln::platform::write_setting("Language", "J"));
   std::string value;
   ASSERT_TRUE(kiln::platform::read_setting("Language", value));
   EXPECT_EQ(value, "J");
   EXPECT_FALSE(kiln::platform::read_setting("No such value", value));
-  if (had_value) kiln::platform::write_setting("Language", saved);
 }
 
 }  // namespace

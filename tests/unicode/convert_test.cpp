@@ -1,6 +1,3 @@
-#include "iconv_reference.h"
-#include "test_files.h"
-
 #include <kilnutil/frame.h>
 #include <kilnutil/platform.h>
 #include <kilnutil/unicode.h>
@@ -12,20 +9,6 @@
 #include <vector>
 
 namespace {
-
-using kiln_test::iconv_convert;
-
-std::string mbcs_to_utf8(const std::string& text, int code_page) {
-  char out[1024];
-  const int n = KILNUTIL_UNICODE_MBCS_to_UTF8(text.c_str(), -1, out, sizeof out, code_page);
-  return std::string(out, static_cast<size_t>(n > 0 ? n : 0));
-}
-
-std::string utf8_to_mbcs(const std::string& text, int code_page) {
-  char out[1024];
-  const int n = KILNUTIL_UNICODE_UTF8_to_MBCS(text.c_str(), -1, out, sizeof out, code_page);
-  return n > 0 ? std::string(out) : std::string();
-}
 
 // The result is the UTF-8 byte count minus one: the text's length for a
 // NUL-terminated source, one less than the bytes written (no NUL) for an
@@ -90,13 +73,13 @@ TEST(Utf16ToUtf8Buffers, NeedsRoomForTheNul) {
 TEST(Utf8ToUtf16Buffers, CountsAndTheSpareUnit) {
   KILN_WCHAR out[8];
   EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_UTF16_buffers_ex(out, 8, "a\xC3\xA9", -7), 2);
-  EXPECT_EQ(out[0], u'a');
+  EXPECT_EQ(out[0], KILN_TEXT('a'));
   EXPECT_EQ(out[1], 0xE9);
   EXPECT_EQ(out[2], 0);
   // An explicit length converts no zero; one is stored behind the text.
   for (auto& unit : out) unit = 0x7777;
   EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_UTF16_buffers_ex(out, 3, "abc", 3), 2);
-  EXPECT_EQ(out[2], u'c');
+  EXPECT_EQ(out[2], KILN_TEXT('c'));
   EXPECT_EQ(out[3], 0);                                                         // one past the size given
   EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_UTF16_buffers_ex(out, 3, "abc", -1), -1);  // 4 units needed
   EXPECT_EQ(out[0], 0);
@@ -244,47 +227,13 @@ TEST(HandleConversion, Utf8ToUtf16Handle) {
       HGLOBAL wide = KILNUTIL_UNICODE_UTF8_to_UTF16_handle(source, movable, free_source);
       ASSERT_NE(wide, nullptr);
       EXPECT_EQ(GlobalSize(wide), 10u);  // a, é, a surrogate pair, zero
-      EXPECT_EQ(std::u16string(static_cast<const KILN_WCHAR*>(GlobalLock(wide))), u"a\u00E9\U0001F600");
+      EXPECT_EQ(std::basic_string<KILN_WCHAR>(static_cast<const KILN_WCHAR*>(GlobalLock(wide))),
+                KILN_TEXT("a\u00E9\U0001F600"));
       GlobalUnlock(wide);
       GlobalFree(wide);
     }
   }
   EXPECT_EQ(KILNUTIL_UNICODE_UTF8_to_UTF16_handle(nullptr, 1, 1), nullptr);
-}
-
-// Sample texts in each code page, compared with glibc's iconv on characters
-// both converters map the same way.
-TEST(CodePageTables, AgreeWithIconvOnSampleTexts) {
-  const struct {
-    int code_page;
-    const char* iconv_name;
-    const char* utf8;
-  } samples[] = {
-      {1252, "CP1252",
-       "\xE2\x80\x9C"
-       "Caf\xC3\xA9 na\xC3\xAFve \xE2\x82\xAC"
-       "5 \xC2\xBD \xC3\x9F\xC3\xB8\xC3\x85\xE2\x80\x9D \xE2\x84\xA2"},
-      {932, "CP932",
-       "\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E\xE3\x81\xAE\xE3\x83\x86\xE3\x82\xAD\xE3\x82\xB9\xE3\x83\x88 "
-       "\xEF\xBD\xB1\xEF\xBD\xB2 ABC \xE3\x80\x82"},
-      {936, "CP936",
-       "\xE4\xB8\xAD\xE6\x96\x87\xE6\x96\x87\xE6\x9C\xAC\xEF\xBC\x8C\xE6\xB5\x8B\xE8\xAF\x95 ABC \xE3\x80\x82"},
-  };
-  for (const auto& sample : samples) {
-    const auto expected = iconv_convert("UTF-8", sample.iconv_name, sample.utf8);
-    ASSERT_TRUE(expected.has_value()) << sample.iconv_name;
-    EXPECT_EQ(utf8_to_mbcs(sample.utf8, sample.code_page), *expected) << sample.code_page;
-    EXPECT_EQ(mbcs_to_utf8(*expected, sample.code_page), sample.utf8) << sample.code_page;
-  }
-}
-
-TEST(CodePageTables, Every1252ByteAgreesWithIconv) {
-  for (int byte = 1; byte < 256; ++byte) {
-    const std::string one(1, static_cast<char>(byte));
-    const auto expected = iconv_convert("CP1252", "UTF-8", one);
-    if (!expected) continue;  // the five bytes iconv leaves undefined
-    EXPECT_EQ(mbcs_to_utf8(one, 1252), *expected) << byte;
-  }
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "iconv_reference.h"
+#include "support/utf16_bytes.h"
 #include "test_files.h"
 
 #include <kilnutil/frame.h>
@@ -10,7 +10,6 @@
 
 namespace {
 
-using kiln_test::iconv_convert;
 using kiln_test::TempFolder;
 using kiln_test::write_file;
 
@@ -170,7 +169,7 @@ TEST(DetectStream, RestoresThePositionAndReadsOnlyTheStart) {
   EXPECT_EQ(KILNUTIL_DetectEncodingFile(path.c_str(), 0, 1), KILNUTIL_ENCODING_UTF32BE | KILNUTIL_ENCODING_MARK);
 }
 
-TEST(DetectFile, FilesWrittenByIconvEmptyAndMissing) {
+TEST(DetectFile, EncodedFilesEmptyAndMissing) {
   TempFolder folder;
   const std::string path = folder.file("text.txt");
   const std::string text =
@@ -178,24 +177,21 @@ TEST(DetectFile, FilesWrittenByIconvEmptyAndMissing) {
       "e, \xE6\x97\xA5\xE6\x9C\xAC\r\nzweite Zeile\r\n";
   const struct {
     const char* encoding;
-    std::string prefix;
-    std::string text;
+    std::string bytes;
     unsigned expected;
   } cases[] = {
-      {"UTF-16LE", "", text, 2},
-      {"UTF-16BE", "", text, 3},
-      {"UTF-16LE", "\xFF\xFE", text, 258},
-      {"UTF-16BE", "\xFE\xFF", text, 259},
-      {"UTF-8", "\xEF\xBB\xBF", text, 257},
-      {"UTF-8", "", text, 1},
-      {"SHIFT_JIS", "", "\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E\r\n", 0},
-      {"ASCII", "", "only ASCII here\n", 512},
+      {"UTF-16LE", kiln_test::utf16le(text), 2},
+      {"UTF-16BE", kiln_test::utf16be(text), 3},
+      {"UTF-16LE, marked", "\xFF\xFE" + kiln_test::utf16le(text), 258},
+      {"UTF-16BE, marked", "\xFE\xFF" + kiln_test::utf16be(text), 259},
+      {"UTF-8, marked", "\xEF\xBB\xBF" + text, 257},
+      {"UTF-8", text, 1},
+      {"Shift_JIS", "\x93\xFA\x96\x7B\x8C\xEA\r\n", 0},
+      {"ASCII", "only ASCII here\n", 512},
   };
   for (const auto& c : cases) {
-    const auto converted = iconv_convert("UTF-8", c.encoding, c.text);
-    ASSERT_TRUE(converted.has_value()) << c.encoding;
-    write_file(path, c.prefix + *converted);
-    EXPECT_EQ(KILNUTIL_DetectEncodingFile(path.c_str(), 0, 0), c.expected) << c.encoding << " " << c.prefix.size();
+    write_file(path, c.bytes);
+    EXPECT_EQ(KILNUTIL_DetectEncodingFile(path.c_str(), 0, 0), c.expected) << c.encoding;
   }
   write_file(path, "");
   EXPECT_EQ(KILNUTIL_DetectEncodingFile(path.c_str(), 0, 0), 255u);

@@ -1,5 +1,7 @@
 // Files for the encoding tests: a private folder removed afterwards and whole
-// file reads and writes.
+// file reads and writes. Paths are UTF-8 strings, as the library takes them
+// (a narrow path given to the file system would be read in the ANSI code page
+// on Windows).
 #pragma once
 
 #include <gtest/gtest.h>
@@ -11,6 +13,15 @@
 #include <string>
 
 namespace kiln_test {
+
+inline std::filesystem::path utf8_path(const std::string& utf8) {
+  return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
+}
+
+inline std::string utf8_string(const std::filesystem::path& path) {
+  const std::u8string text = path.u8string();
+  return std::string(text.begin(), text.end());
+}
 
 class TempFolder {
 public:
@@ -30,7 +41,7 @@ public:
   TempFolder(const TempFolder&) = delete;
   TempFolder& operator=(const TempFolder&) = delete;
 
-  std::string file(const std::string& name) const { return (path_ / name).string(); }
+  std::string file(const std::string& name) const { return utf8_string(path_ / utf8_path(name)); }
   const std::filesystem::path& path() const { return path_; }
   // Names of the entries in the folder (to see that no temporary file is left).
   size_t entry_count() const {
@@ -42,12 +53,12 @@ private:
 };
 
 inline void write_file(const std::string& path, const std::string& bytes) {
-  std::ofstream out(path, std::ios::binary | std::ios::trunc);
+  std::ofstream out(utf8_path(path), std::ios::binary | std::ios::trunc);
   out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
 }
 
 inline std::string read_file(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
+  std::ifstream in(utf8_path(path), std::ios::binary);
   return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
 }
 

@@ -1,4 +1,5 @@
-#include "iconv_reference.h"
+#include "support/environment.h"
+#include "support/utf16_bytes.h"
 #include "test_files.h"
 #include "unicode/utf16_stream_to_utf8.h"
 
@@ -7,15 +8,15 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <cstring>
+#include <filesystem>
+#include <optional>
 #include <random>
 #include <string>
 #include <vector>
 
 namespace {
 
-using kiln_test::iconv_convert;
 using kiln_test::TempFolder;
 using kiln_test::write_file;
 
@@ -34,24 +35,18 @@ std::string temporary_path(const TextFileToUTF8Context& context) {
   return KILNUTIL_UNICODE_UTF16_to_UTF8_buffers(path, sizeof path, context.temp_path) > 0 ? path : "";
 }
 
-// One file opened through the protocol, with $TMPDIR pointing into the
-// test's folder so the converted copy can be watched.
+// One file opened through the protocol, with the system's temporary folder
+// pointing into the test's folder so the converted copy can be watched.
 class OpenAsUtf8 : public ::testing::Test {
 protected:
   void SetUp() override {
-    if (const char* old = std::getenv("TMPDIR")) saved_tmpdir_ = old;
     copies_.emplace();
-    setenv("TMPDIR", copies_->path().c_str(), 1);
+    temporary_folder_.emplace(kiln_test::temporary_folder_variable(), kiln_test::utf8_string(copies_->path()));
     KILNUTIL_UNICODE_open_text_file_to_UTF8_INIT(&context_);
     context_.fallback_mode = "rb";
     context_.binary_reopen = 1;
     context_.guess = 1;
   }
-  void TearDown() override {
-    if (saved_tmpdir_) setenv("TMPDIR", saved_tmpdir_->c_str(), 1);
-    else unsetenv("TMPDIR");
-  }
-
   FILE* begin(const std::string& bytes) {
     path_ = files_.file("input.txt");
     write_file(path_, bytes);
@@ -62,14 +57,21 @@ protected:
 
   TempFolder files_;
   std::optional<TempFolder> copies_;
+  std::optional<kiln_test::ScopedVariable> temporary_folder_;
   TextFileToUTF8Context context_;
   std::string path_;
   FILE* caller_stream_ = nullptr;
-  std::optional<std::string> saved_tmpdir_;
 };
 
-// Everything but UTF-8 and big-endian text goes into a copy in $TMPDIR,
-// which END deletes.
+// Whether `path` names a converted copy: a file in `folder` whose name
+// starts with VU8.
+bool is_copy_in(const std::string& path, const std::filesystem::path& folder) {
+  const std::filesystem::path copy = kiln_test::utf8_path(path);
+  return copy.parent_path() == folder && kiln_test::utf8_string(copy.filename()).rfind("VU8", 0) == 0;
+}
+
+// Everything but UTF-8 and big-endian text goes into a copy in the temporary
+// folder, which END deletes.
 TEST_F(OpenAsUtf8, ConvertedCopies) {
   using namespace std::string_literals;
   const std::string japanese = "\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E\n";
@@ -82,11 +84,9 @@ TEST_F(OpenAsUtf8, ConvertedCopies) {
     int write_mark, guess;
     std::string copy;
   } cases[] = {
-      {"UTF-16LE", "\xFF\xFE" + *iconv_convert("UTF-8", "UTF-16LE", long_text), 1252, 0, 1, long_text},
-      {"unmarked UTF-16LE, guessed; mark asked for", *iconv_convert("UTF-8", "UTF-16LE", kText), 1252, 1, 1,
-       "\xEF\xBB\xBF" + kText},
-      {"code-page text in the effective code page", *iconv_convert("UTF-8", "SHIFT_JIS", japanese), 932, 0, 1,
-       japanese},
+      {"UTF-16LE", "\xFF\xFE" + kiln_test::utf16le(long_text), 1252, 0, 1, long_text},
+      {"unmarked UTF-16LE, guessed; mark asked for", kiln_test::utf16le(kText), 1252, 1, 1, "\xEF\xBB\xBF" + kText},
+      {"code-page text in the effective code page", "\x93\xFA\x96\x7B\x8C\xEA\n", 932, 0, 1, japanese},
       {"plain ASCII", "just ASCII\n", 1252, 0, 1, "just ASCII\n"},
       {"unmarked UTF-16 without guessing: code-page text up to its first zero byte", "a\0b\0"s, 1252, 0, 0, "a"},
       {"an empty file", "", 1252, 1, 1, "\xEF\xBB\xBF"},
@@ -99,7 +99,7 @@ TEST_F(OpenAsUtf8, ConvertedCopies) {
     set_code_page_for_string_process(previous);
     ASSERT_NE(stream, nullptr) << c.what;
     EXPECT_EQ(stream, context_.converted_stream) << c.what;
-    EXPECT_EQ(temporary_path(context_).rfind(copies_->path().string() + "/VU8", 0), 0u) << c.what;
+    EXPECT_TRUE(is_copy_in(temporary_path(context_), copies_->path())) << c.what << ": " << temporary_path(context_);
     EXPECT_EQ(context_.mark_size, c.write_mark ? 3 : 0) << c.what;
     EXPECT_EQ(read_rest(stream), c.copy) << c.what;
     KILNUTIL_UNICODE_open_text_file_to_UTF8_END(stream, &context_);
@@ -121,7 +121,7 @@ TEST_F(OpenAsUtf8, StreamsHandedBackInPlace) {
   } cases[] = {
       {"UTF-8", "\xEF\xBB\xBF" + kText, 0, 0, 3, 3},
       {"UTF-8, mark kept", "\xEF\xBB\xBF" + kText, 1, 0, 3, 0},
-      {"UTF-16BE", "\xFE\xFF" + *iconv_convert("UTF-8", "UTF-16BE", kText), 0, 0, 2, 0},
+      {"UTF-16BE", "\xFE\xFF" + kiln_test::utf16be(kText), 0, 0, 2, 0},
       {"UTF-16LE, no conversion",
        "\xFF\xFE"
        "a\0b\0\0"s,
@@ -165,9 +165,9 @@ TEST_F(OpenAsUtf8, MissingSettingsLeaveTheStreamAlone) {
 // byte and the byte limit all meet chunk boundaries.
 TEST(Utf16StreamToUtf8, MatchesTheWholeTextConversionAtEveryChunkSize) {
   std::mt19937 random(7);
-  const KILN_WCHAR kUnits[] = {u'a', 0x00E9, 0x20AC, 0xD83D, 0xDE00, 0xDC00, 0xDBFF};
+  const KILN_WCHAR kUnits[] = {KILN_TEXT('a'), 0x00E9, 0x20AC, 0xD83D, 0xDE00, 0xDC00, 0xDBFF};
   for (int round = 0; round < 400; ++round) {
-    std::u16string units;  // the model: units up to the first zero, an odd last byte a unit of its own
+    std::basic_string<KILN_WCHAR> units;  // the model: units up to the first zero, an odd last byte a unit of its own
     for (int i = static_cast<int>(random() % 24); i > 0; --i) {
       units += random() % 40 == 0 ? KILN_WCHAR{0} : kUnits[random() % std::size(kUnits)];
     }

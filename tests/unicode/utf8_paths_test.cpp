@@ -1,19 +1,15 @@
-#include "iconv_reference.h"
+#include "support/file_access.h"
+#include "support/utf16_bytes.h"
 #include "test_files.h"
 
 #include <kilnutil/unicode.h>
 
 #include <gtest/gtest.h>
 
-#include <fcntl.h>
-#include <unistd.h>
-
-#include <cstdint>
 #include <string>
 
 namespace {
 
-using kiln_test::iconv_convert;
 using kiln_test::read_file;
 using kiln_test::TempFolder;
 using kiln_test::write_file;
@@ -51,13 +47,12 @@ TEST(Utf8Paths, CreateFileDispositions) {
   EXPECT_EQ(KILNUTIL_UTF8_CreateFile(path.c_str(), kRead, 0, nullptr, 3, 0, nullptr), INVALID_HANDLE_VALUE);
   HANDLE created = KILNUTIL_UTF8_CreateFile(path.c_str(), kWrite, 0, nullptr, 1, 0x80, nullptr);
   ASSERT_NE(created, INVALID_HANDLE_VALUE);
-  const int descriptor = static_cast<int>(reinterpret_cast<intptr_t>(created));
-  EXPECT_EQ(write(descriptor, "abc", 3), 3);
-  close(descriptor);
+  EXPECT_TRUE(kiln_test::write_to_handle(created, "abc"));
+  EXPECT_TRUE(kiln_test::close_handle(created));
   EXPECT_EQ(KILNUTIL_UTF8_CreateFile(path.c_str(), kWrite, 0, nullptr, 1, 0, nullptr), INVALID_HANDLE_VALUE);
   HANDLE truncated = KILNUTIL_UTF8_CreateFile(path.c_str(), kWrite, 0, nullptr, 5, 0, nullptr);
   ASSERT_NE(truncated, INVALID_HANDLE_VALUE);
-  close(static_cast<int>(reinterpret_cast<intptr_t>(truncated)));
+  EXPECT_TRUE(kiln_test::close_handle(truncated));
   EXPECT_EQ(read_file(path), "");
   EXPECT_EQ(KILNUTIL_UTF8_CreateFile(path.c_str(), kRead, 0, nullptr, 9, 0, nullptr), INVALID_HANDLE_VALUE);
 }
@@ -74,10 +69,10 @@ TEST(UnicodeFileToAnsi, WritesUtf16TextAsAnsiText) {
     int result;
     std::string target;
   } cases[] = {
-      {"\xFF\xFE" + *iconv_convert("UTF-8", "UTF-16LE", "caf\xC3\xA9\r\n"), 1, "caf\xE9\r\n"},
-      {*iconv_convert("UTF-8", "UTF-16LE", "xy\r\n"), 1, "y\r\n"},
+      {"\xFF\xFE" + kiln_test::utf16le("caf\xC3\xA9\r\n"), 1, "caf\xE9\r\n"},
+      {kiln_test::utf16le("xy\r\n"), 1, "y\r\n"},
       {"plain narrow text\n", 0, ""},
-      {"\xFE\xFF" + *iconv_convert("UTF-8", "UTF-16BE", "big"), 0, ""},
+      {"\xFE\xFF" + kiln_test::utf16be("big"), 0, ""},
   };
   for (const auto& c : cases) {
     write_file(source, c.source);

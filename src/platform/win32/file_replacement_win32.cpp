@@ -107,4 +107,6 @@ ReplaceStatus FileReplacement::commit() {
   return ReplaceStatus::kDone;
 }
 
+bool temporary_name_extends_original() { return false; }
+
 }  // namespace kiln::platform
