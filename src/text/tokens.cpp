@@ -40,16 +40,22 @@ private:
   char* out_;
 };
 
-const char* read_token_with(const char* p, TokenWriter& out, PairNesting& nesting) {
-  nesting.reset();
-  g_enclosed_token.store(false);
+// One token's pair nesting and enclosed-token flag, worked on here and stored
+// in the process-wide state once the token is read.
+struct TokenState {
+  PairNesting nesting;
+  bool enclosed = false;  // the token is the inside of a pair
+};
+
+const char* read_token_with(const char* p, TokenWriter& out, TokenState& state) {
+  PairNesting& nesting = state.nesting;
   for (;;) {
     const char* at = p;
     const unsigned c = read_char(p);
     if (c == 0) return at;
     if (nesting.is_open()) {
       const bool closed = nesting.follow(c);
-      if (closed && g_enclosed_token.load()) return p;  // the enclosing closer is dropped
+      if (closed && state.enclosed) return p;  // the enclosing closer is dropped
       out.put(at, p);
       if (closed) return p;
       continue;
@@ -57,7 +63,7 @@ const char* read_token_with(const char* p, TokenWriter& out, PairNesting& nestin
     if (const int pair = begin_quote_class(c)) {
       if (out.empty()) {  // the token is the inside of this pair
         nesting.open(pair);
-        g_enclosed_token.store(true);
+        state.enclosed = true;
         continue;
       }
       if (c != '(' && c != '[') return at;
@@ -79,9 +85,10 @@ const char* read_token_with(const char* p, TokenWriter& out, PairNesting& nestin
 
 // Reads the token at p into out; returns the position where it ended.
 const char* read_token(const char* p, TokenWriter& out) {
-  PairNesting nesting;
-  const char* end = read_token_with(p, out, nesting);
-  remember_strchr_nesting(nesting);
+  TokenState state;
+  const char* end = read_token_with(p, out, state);
+  remember_strchr_nesting(state.nesting);
+  g_enclosed_token.store(state.enclosed);
   return end;
 }
 
