@@ -2,6 +2,7 @@
 // "Language" under HKEY_CURRENT_USER\Software\kilnutil, and with none stored
 // the user's default interface language decides (Windows only; the POSIX
 // backend is checked in language_settings_file_test.cpp).
+#include "language_fixture.h"
 #include "locale/language_state.h"
 #include "support/language_store.h"
 
@@ -18,19 +19,7 @@ namespace {
 
 constexpr wchar_t kKey[] = L"Software\\kilnutil";
 
-class LanguageRegistry : public ::testing::Test {
-protected:
-  void SetUp() override {
-    saved_code_page_ = set_code_page_for_string_process(0xFFFFFFFFu);
-    kiln::locale::forget_languages();
-  }
-  void TearDown() override {
-    kiln::locale::forget_languages();
-    set_code_page_for_string_process(saved_code_page_);
-  }
-  kiln_test::LanguageStore store_;  // the value emptied here and put back afterwards
-  unsigned saved_code_page_ = 0;
-};
+using LanguageRegistry = kiln_test::LanguageFixture;
 
 TEST_F(LanguageRegistry, ChoiceIsAStringValueOfTheApplicationKey) {
   ASSERT_EQ(KILNUTIL_SetResourceLang("Japanese", nullptr, nullptr), 1);

@@ -2,6 +2,7 @@
 // configuration folder, and the locale variables deciding when none is
 // stored (Windows keeps the choice in the registry and takes the user's
 // interface language instead: language_registry_test.cpp).
+#include "language_fixture.h"
 #include "locale/language_state.h"
 #include "support/environment.h"
 #include "support/language_store.h"
@@ -17,25 +18,14 @@
 
 namespace {
 
-class LanguageSettingsFile : public ::testing::Test {
+class LanguageSettingsFile : public kiln_test::LanguageFixture {
 protected:
-  void SetUp() override {
-    saved_code_page_ = set_code_page_for_string_process(0xFFFFFFFFu);
-    kiln::locale::forget_languages();
-  }
-  void TearDown() override {
-    kiln::locale::forget_languages();
-    set_code_page_for_string_process(saved_code_page_);
-  }
   static std::string folder() { return kiln_test::environment_variable("KILNUTIL_CONFIG_DIR").value_or(""); }
   static std::string settings_path() { return folder() + "/settings.ini"; }
   static void write_settings(const std::string& text) {
     std::filesystem::create_directories(kiln_test::utf8_path(folder()));
     kiln_test::write_file(settings_path(), text);
   }
-
-  kiln_test::LanguageStore store_;  // a private configuration folder, no locale variables
-  unsigned saved_code_page_ = 0;
 };
 
 struct DeterminationCase {

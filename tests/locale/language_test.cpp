@@ -3,6 +3,7 @@
 // choice is kept and the platform's language when none is stored are checked
 // per platform (language_settings_file_test.cpp on POSIX,
 // language_registry_test.cpp on Windows).
+#include "language_fixture.h"
 #include "locale/language_state.h"
 #include "support/language_store.h"
 
@@ -16,18 +17,8 @@
 
 namespace {
 
-// The user's stored choice emptied (and put back afterwards), the string
-// process code page unset.
-class Language : public ::testing::Test {
+class Language : public kiln_test::LanguageFixture {
 protected:
-  void SetUp() override {
-    saved_code_page_ = set_code_page_for_string_process(0xFFFFFFFFu);
-    kiln::locale::forget_languages();
-  }
-  void TearDown() override {
-    kiln::locale::forget_languages();
-    set_code_page_for_string_process(saved_code_page_);
-  }
   // The resource language determined afresh and the code page it set.
   std::pair<unsigned, unsigned> determined() {
     kiln::locale::forget_languages();
@@ -36,9 +27,6 @@ protected:
     EXPECT_EQ(KILNUTIL_UserLanguageIndex(), index);
     return {index, code_page};
   }
-
-  kiln_test::LanguageStore store_;
-  unsigned saved_code_page_ = 0;
 };
 
 // A stored choice is read by its first letter, in either case; a value that
