@@ -4,6 +4,7 @@
 // exit code of 0 or 2, the preview 0 or 1, nothing crashes or reads out of
 // bounds; the Base64 decoder round-trips what the encoder made of the bytes.
 #include "../tools/kilnutil/base64_stream.h"
+#include "support/temporary_stream.h"
 #include "../tools/kilnutil/preview.h"
 
 #include <cstdint>
@@ -52,7 +53,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   check(parsed == kilnutil_cli::kOk || parsed == kilnutil_cli::kUsage);
   if (parsed != kilnutil_cli::kOk) options = kilnutil_cli::PreviewOptions{};
 
-  std::FILE* stream = std::tmpfile();
+  std::FILE* stream = kiln_test::temporary_stream();
   if (stream == nullptr) return 0;
   std::fwrite(file.data(), 1, file.size(), stream);
   std::rewind(stream);

@@ -1,6 +1,8 @@
 // Helpers shared by the fuzz targets.
 #pragma once
 
+#include "support/temporary_stream.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
@@ -22,7 +24,7 @@ inline std::string as_text(const std::uint8_t* data, std::size_t size) {
 // A stream that reads the input's bytes from the start: a temporary file,
 // because standard C has no stream over memory. Null when none can be made.
 inline std::FILE* stream_over(const void* data, std::size_t size) {
-  std::FILE* stream = std::tmpfile();
+  std::FILE* stream = kiln_test::temporary_stream();
   if (stream == nullptr) return nullptr;
   if (std::fwrite(data, 1, size, stream) != size) {
     std::fclose(stream);

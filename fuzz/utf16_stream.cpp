@@ -2,6 +2,7 @@
 // exactly the whole text's conversion, whatever the chunk size (taken from
 // the first byte) and wherever pairs, lone surrogates and zero units fall.
 #include "fuzz_support.h"
+#include "support/temporary_stream.h"
 
 #include "unicode/utf16_stream_to_utf8.h"
 
@@ -38,8 +39,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::size_t chunk_units = 2 + data[0] % 16;
   const std::uint8_t* text = data + 1;
   const std::size_t text_size = size - 1;
-  FILE* in = std::tmpfile();
-  FILE* out = std::tmpfile();
+  FILE* in = kiln_test::temporary_stream();
+  FILE* out = kiln_test::temporary_stream();
   check(in != nullptr && out != nullptr);
   std::fwrite(text, 1, text_size, in);
   std::rewind(in);

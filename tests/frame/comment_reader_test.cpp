@@ -1,4 +1,5 @@
 #include "unicode/test_files.h"
+#include "support/temporary_stream.h"
 
 #include <kilnutil/frame.h>
 #include <kilnutil/text.h>
@@ -40,7 +41,7 @@ Stripped strip_string(const std::string& text) {
 }
 
 Stripped strip_file(const std::string& text) {
-  FILE* stream = std::tmpfile();
+  FILE* stream = kiln_test::temporary_stream();
   std::fwrite(text.data(), 1, text.size(), stream);
   std::rewind(stream);
   VTextAccessFromFile source(stream);
@@ -150,7 +151,7 @@ TEST(CommentReader, SourcesCopyByValueAndStreamEndCounts) {
   VTextAccessFromString text("\xC3\xA9!");
   EXPECT_EQ(text.GetChar(0), 0xE9u);
 
-  FILE* stream = std::tmpfile();
+  FILE* stream = kiln_test::temporary_stream();
   std::fputs("\xE2\x82\xAC", stream);
   std::rewind(stream);
   VTextAccessFromFile file(stream);

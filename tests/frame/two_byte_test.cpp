@@ -1,3 +1,5 @@
+#include "support/temporary_stream.h"
+
 #include <kilnutil/frame.h>
 
 #include <gtest/gtest.h>
@@ -14,7 +16,7 @@ struct FileCloser {
 using File = std::unique_ptr<FILE, FileCloser>;
 
 File stream_of(const std::string& bytes) {
-  File f(std::tmpfile());
+  File f(kiln_test::temporary_stream());
   std::fwrite(bytes.data(), 1, bytes.size(), f.get());
   std::rewind(f.get());
   return f;

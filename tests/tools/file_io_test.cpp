@@ -1,6 +1,7 @@
 // Inputs and outputs named on the command line: the system's reason for
 // every failure, offsets and seeking, and the adopted copy of a pipe.
 #include "file_io.h"
+#include "support/temporary_stream.h"
 #include "tool_input.h"
 
 #include <gtest/gtest.h>
@@ -49,7 +50,7 @@ TEST(ToolIo, OffsetsSizesAndSeeking) {
   EXPECT_EQ(input.read_full(buffer, 3), 3u);
   EXPECT_EQ(std::string(buffer, 3), "234");
   // A copy adopted in its place continues at the same offset and can't seek.
-  std::FILE* copy = std::tmpfile();
+  std::FILE* copy = kiln_test::temporary_stream();
   std::fputs("rest", copy);
   std::rewind(copy);
   input.adopt(copy, 5);

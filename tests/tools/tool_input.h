@@ -2,6 +2,7 @@
 #pragma once
 
 #include "file_io.h"
+#include "support/temporary_stream.h"
 #include "text_decoder.h"
 
 #include <cstdio>
@@ -21,7 +22,7 @@ inline std::filesystem::path temporary_path(const std::string& stem) {
 
 inline std::unique_ptr<kilnutil_cli::InputFile> piped(const std::string& bytes) {
   auto input = std::make_unique<kilnutil_cli::InputFile>();
-  std::FILE* stream = std::tmpfile();
+  std::FILE* stream = kiln_test::temporary_stream();
   std::fwrite(bytes.data(), 1, bytes.size(), stream);
   std::rewind(stream);
   input->adopt(stream, 0);

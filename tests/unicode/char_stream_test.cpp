@@ -1,4 +1,5 @@
 #include "test_files.h"
+#include "support/temporary_stream.h"
 
 #include <kilnutil/unicode.h>
 
@@ -36,7 +37,7 @@ private:
 // A stdio stream over the bytes (a temporary file), closed at the end.
 class ByteStream {
 public:
-  explicit ByteStream(const std::string& bytes) : file_(std::tmpfile()) {
+  explicit ByteStream(const std::string& bytes) : file_(kiln_test::temporary_stream()) {
     std::fwrite(bytes.data(), 1, bytes.size(), file_);
     std::rewind(file_);
   }

@@ -1,4 +1,5 @@
 #include "support/environment.h"
+#include "support/temporary_stream.h"
 #include "support/utf16_bytes.h"
 #include "test_files.h"
 #include "unicode/utf16_stream_to_utf8.h"
@@ -180,8 +181,8 @@ TEST(Utf16StreamToUtf8, MatchesTheWholeTextConversionAtEveryChunkSize) {
     expected.resize(static_cast<size_t>(std::max(
         0, KILNUTIL_UNICODE_UTF16_to_UTF8_buffers(expected.data(), static_cast<int>(expected.size()), units.c_str()))));
     for (const size_t chunk_units : {2, 3, 5, 64}) {
-      FILE* in = std::tmpfile();
-      FILE* out = std::tmpfile();
+      FILE* in = kiln_test::temporary_stream();
+      FILE* out = kiln_test::temporary_stream();
       std::fwrite((bytes + "A").data(), 1, bytes.size() + 1, in);  // the "A" lies past the byte limit
       std::rewind(in);
       ASSERT_EQ(kiln::unicode::utf16le_stream_to_utf8(in, bytes.size(), out, chunk_units),
